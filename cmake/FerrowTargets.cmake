@@ -1,0 +1,30 @@
+# Compiler settings shared by every Ferrow target, applied per target through
+# an interface library rather than directory-wide flags.
+add_library(ferrow_build_settings INTERFACE)
+target_compile_options(ferrow_build_settings INTERFACE
+    $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Wall -Wextra -Wpedantic>
+    $<$<AND:$<BOOL:${FERROW_WARNINGS_AS_ERRORS}>,$<CXX_COMPILER_ID:GNU,Clang,AppleClang>>:-Werror>)
+target_compile_definitions(ferrow_build_settings INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+
+if(FERROW_SANITIZE)
+    set(_ferrow_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined
+        -fno-omit-frame-pointer)
+    target_compile_options(ferrow_build_settings INTERFACE ${_ferrow_sanitizers})
+    target_link_options(ferrow_build_settings INTERFACE ${_ferrow_sanitizers})
+endif()
+
+# ferrow_add_test(<name> SOURCES <files...> LIBRARIES <targets...>)
+# One Qt Test executable per unit, registered with CTest under its own name.
+function(ferrow_add_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    qt_add_executable(${name} ${ARG_SOURCES})
+    find_package(Qt6 REQUIRED COMPONENTS Test)
+    target_link_libraries(${name} PRIVATE Qt6::Test ferrow_build_settings ${ARG_LIBRARIES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT 120
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=1:abort_on_error=1;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
+endfunction()

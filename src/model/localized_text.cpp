@@ -1,0 +1,24 @@
+#include "model/localized_text.h"
+
+#include <QtGlobal>
+
+namespace ferrow {
+
+QString localizedText(const char *key)
+{
+    return qtTrId(key);
+}
+
+QString localizedFormat(const char *key, std::initializer_list<std::int64_t> arguments)
+{
+    QString text = qtTrId(key);
+    for (const std::int64_t argument : arguments) {
+        // A missing text is the bare key: leave it as it is rather than provoke arg()'s warning.
+        if (!text.contains(u'%'))
+            break;
+        text = text.arg(static_cast<qlonglong>(argument));
+    }
+    return text;
+}
+
+} // namespace ferrow

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "model/power_history.h"
+#include "model/power_snapshot.h"
+#include "monitor/snapshot_reader.h"
+
+#include <QList>
+#include <QMetaObject>
+#include <QObject>
+#include <QPointer>
+#include <QThreadPool>
+
+#include <chrono>
+#include <memory>
+
+class QTimer;
+
+namespace ferrow {
+
+class SleepWakeNotifier;
+
+// The one live object between the reader and the views. Once a second it runs one reading on a
+// low-priority worker and publishes the result on the main thread, then folds it into the history.
+// All members are touched on the main thread only; isRefreshing is the only exclusion.
+class PowerMonitor : public QObject {
+    Q_OBJECT
+public:
+    static constexpr std::chrono::milliseconds kDefaultInterval{1000};
+
+    PowerMonitor(std::unique_ptr<SnapshotReader> reader, SleepWakeNotifier *sleepWake,
+                 std::chrono::milliseconds interval = kDefaultInterval, QObject *parent = nullptr);
+    ~PowerMonitor() override;
+
+    const PowerSnapshot &snapshot() const { return m_snapshot; }
+    const PowerHistory &powerHistory() const { return m_powerHistory; }
+    bool isRunning() const { return m_timer != nullptr; }
+    bool isRefreshing() const { return m_isRefreshing; }
+    qsizetype observerCount() const { return m_observers.size(); }
+
+public slots:
+    void start();
+    void refresh();
+    void stopTimer();
+    void restart();
+
+signals:
+    // Emitted before every store, equal values included, like any observable property.
+    void objectWillChange();
+    // Emitted after the store, for views that read the new value at once.
+    void snapshotChanged();
+    void powerHistoryChanged();
+
+private:
+    void apply(PowerSnapshot result);
+
+    std::unique_ptr<SnapshotReader> m_reader;
+    QPointer<SleepWakeNotifier> m_sleepWake;
+    std::chrono::milliseconds m_interval;
+    PowerSnapshot m_snapshot;
+    PowerHistory m_powerHistory;
+    std::unique_ptr<QTimer> m_timer;
+    QList<QMetaObject::Connection> m_observers;
+    bool m_isRefreshing = false;
+    QThreadPool m_worker;
+};
+
+} // namespace ferrow

@@ -1,0 +1,288 @@
+#include "app/text_table.h"
+#include "model/localized_text.h"
+#include "model/power_snapshot.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace ferrow;
+
+Q_DECLARE_METATYPE(ferrow::PowerSnapshot)
+Q_DECLARE_METATYPE(std::optional<std::int64_t>)
+
+namespace {
+
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInf = std::numeric_limits<double>::infinity();
+
+// A notebook reading; the rows below change only what they are about.
+PowerSnapshot notebook(bool external, bool charging, bool dataAvailable, double flowW)
+{
+    PowerSnapshot s;
+    s.hasBattery = true;
+    s.isExternalConnected = external;
+    s.isCharging = charging;
+    s.isDataAvailable = dataAvailable;
+    s.batteryFlowW = flowW;
+    s.dcPowerW = 31.5;
+    s.dcCurrentA = 1.575;
+    s.batteryVoltageV = 12.0;
+    return s;
+}
+
+void compareOptional(std::optional<double> actual, const QVariant &expected)
+{
+    QCOMPARE(actual.has_value(), expected.isValid());
+    if (!actual)
+        return;
+    const double want = expected.toDouble();
+    if (std::isnan(want))
+        QVERIFY(std::isnan(*actual));
+    else
+        QCOMPARE(*actual, want);
+}
+
+} // namespace
+
+class PowerSnapshotTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(installTextTable(*QCoreApplication::instance()));
+    }
+
+    void displayFigures_data()
+    {
+        QTest::addColumn<PowerSnapshot>("snapshot");
+        QTest::addColumn<QVariant>("powerW");
+        QTest::addColumn<QVariant>("currentA");
+
+        PowerSnapshot desktop;
+        desktop.isExternalConnected = true;
+        desktop.dcPowerW = 42.0;
+        desktop.dcCurrentA = 2.1;
+        desktop.batteryFlowW = -9.0; // ignored without a battery
+        QTest::newRow("no battery: input side") << desktop << QVariant(42.0) << QVariant(2.1);
+
+        QTest::newRow("adapter, flow -0.05 exactly: input side")
+            << notebook(true, false, true, -0.05) << QVariant(31.5) << QVariant(1.575);
+        QTest::newRow("adapter, flow -0.06: battery side")
+            << notebook(true, false, true, -0.06) << QVariant(-0.06) << QVariant(-0.005);
+        QTest::newRow("adapter, charging, flow negative: input side")
+            << notebook(true, true, true, -4.0) << QVariant(31.5) << QVariant(1.575);
+        QTest::newRow("adapter, NaN flow: input side")
+            << notebook(true, false, true, kNaN) << QVariant(31.5) << QVariant(1.575);
+        QTest::newRow("on battery, +0.04 dead band") << notebook(false, false, true, 0.04) << QVariant(0.0) << QVariant(0.0);
+        QTest::newRow("on battery, -0.04 dead band") << notebook(false, false, true, -0.04) << QVariant(0.0) << QVariant(0.0);
+        QTest::newRow("on battery, -0.05 passes dead band")
+            << notebook(false, false, true, -0.05) << QVariant(-0.05) << QVariant(-0.05 / 12.0);
+        QTest::newRow("battery side without data: absent") << notebook(false, false, false, -6.0) << QVariant() << QVariant();
+        QTest::newRow("input side without data: present")
+            << notebook(true, false, false, 2.0) << QVariant(31.5) << QVariant(1.575);
+        QTest::newRow("pack voltage divides") << notebook(false, false, true, -6.0) << QVariant(-6.0) << QVariant(-0.5);
+
+        PowerSnapshot rail = notebook(false, false, true, -6.0);
+        rail.batteryRailVoltageV = 15.0;
+        QTest::newRow("rail voltage preferred") << rail << QVariant(-6.0) << QVariant(-0.4);
+
+        PowerSnapshot noVoltage = notebook(false, false, true, -6.0);
+        noVoltage.batteryVoltageV.reset();
+        QTest::newRow("no voltage: current absent") << noVoltage << QVariant(-6.0) << QVariant();
+
+        PowerSnapshot zeroVolts = notebook(false, false, true, -6.0);
+        zeroVolts.batteryVoltageV = 0.0;
+        QTest::newRow("0 V divides to -infinity") << zeroVolts << QVariant(-6.0) << QVariant(-kInf);
+        PowerSnapshot zeroOverZero = notebook(false, false, true, 0.01);
+        zeroOverZero.batteryVoltageV = 0.0;
+        QTest::newRow("0 W over 0 V is NaN") << zeroOverZero << QVariant(0.0) << QVariant(kNaN);
+    }
+
+    void displayFigures()
+    {
+        QFETCH(PowerSnapshot, snapshot);
+        QFETCH(QVariant, powerW);
+        QFETCH(QVariant, currentA);
+        compareOptional(snapshot.displayPowerW(), powerW);
+        compareOptional(snapshot.displayCurrentA(), currentA);
+    }
+
+    void statusKey_data()
+    {
+        QTest::addColumn<PowerSnapshot>("snapshot");
+        QTest::addColumn<QByteArray>("key");
+
+        PowerSnapshot desktop;
+        desktop.isDataAvailable = false;
+        desktop.isCharging = true;
+        desktop.batteryChargePowerW = 20.0;
+        QTest::newRow("no battery wins over everything") << desktop << QByteArray("status.external_power");
+        QTest::newRow("no telemetry") << notebook(true, true, false, 5.0) << QByteArray("status.waiting_telemetry");
+        QTest::newRow("on battery") << notebook(false, false, true, -5.0) << QByteArray("status.on_battery");
+
+        const auto connected = [](bool charging, double chargeW, std::int64_t percent) {
+            PowerSnapshot s = notebook(true, charging, true, chargeW);
+            s.batteryChargePowerW = chargeW;
+            s.batteryPercent = percent;
+            return s;
+        };
+        QTest::newRow("charging at 0.3 W exactly, 80 %") << connected(true, 0.3, 80) << QByteArray("status.power_connected");
+        QTest::newRow("charging at 0.31 W") << connected(true, 0.31, 80) << QByteArray("status.charging");
+        QTest::newRow("charging at 2 W, 100 %") << connected(true, 2.0, 100) << QByteArray("status.charging");
+        QTest::newRow("not charging, 100 %") << connected(false, 0.0, 100) << QByteArray("status.fully_charged");
+        QTest::newRow("not charging, 99 %") << connected(false, 0.0, 99) << QByteArray("status.power_connected");
+        QTest::newRow("charge power without charging flag") << connected(false, 5.0, 100) << QByteArray("status.fully_charged");
+    }
+
+    void statusKey()
+    {
+        QFETCH(PowerSnapshot, snapshot);
+        QFETCH(QByteArray, key);
+        QCOMPARE(QByteArray(snapshot.statusKey()), key);
+    }
+
+    void powerSourceText_data()
+    {
+        QTest::addColumn<bool>("hasBattery");
+        QTest::addColumn<bool>("external");
+        QTest::addColumn<double>("dcVoltageV");
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("desktop on AC") << false << true << 0.0 << localizedText("power.ac_connected");
+        QTest::newRow("desktop without external power") << false << false << 12.0 << localizedText("power.dc_disconnected");
+        QTest::newRow("notebook at 20 V") << true << true << 20.0 << QStringLiteral("USB-C PD \u00B7 20.0 V");
+        QTest::newRow("notebook at 5 V") << true << true << 5.0 << QStringLiteral("USB-C PD \u00B7 5.0 V");
+        QTest::newRow("rounding to one decimal") << true << true << 14.96 << QStringLiteral("USB-C PD \u00B7 15.0 V");
+        QTest::newRow("notebook at 0.1 V") << true << true << 0.1 << localizedText("power.dc_disconnected");
+        QTest::newRow("notebook unplugged") << true << false << 20.0 << localizedText("power.dc_disconnected");
+    }
+
+    void powerSourceText()
+    {
+        QFETCH(bool, hasBattery);
+        QFETCH(bool, external);
+        QFETCH(double, dcVoltageV);
+        QFETCH(QString, text);
+        PowerSnapshot s;
+        s.hasBattery = hasBattery;
+        s.isExternalConnected = external;
+        s.dcVoltageV = dcVoltageV;
+        QCOMPARE(s.powerSourceText(), text);
+    }
+
+    void timeToFullText_data()
+    {
+        QTest::addColumn<std::optional<std::int64_t>>("minutes");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("absent") << std::optional<std::int64_t>() << QStringLiteral("\u2014");
+        QTest::newRow("zero") << std::optional<std::int64_t>(0) << QStringLiteral("\u2014");
+        QTest::newRow("negative") << std::optional<std::int64_t>(-5) << QStringLiteral("\u2014");
+        QTest::newRow("1") << std::optional<std::int64_t>(1) << QStringLiteral("1 min");
+        QTest::newRow("59") << std::optional<std::int64_t>(59) << QStringLiteral("59 min");
+        QTest::newRow("60") << std::optional<std::int64_t>(60) << QStringLiteral("1 h 0 min");
+        QTest::newRow("125") << std::optional<std::int64_t>(125) << QStringLiteral("2 h 5 min");
+        QTest::newRow("5999") << std::optional<std::int64_t>(5999) << QStringLiteral("99 h 59 min");
+    }
+
+    void timeToFullText()
+    {
+        QFETCH(std::optional<std::int64_t>, minutes);
+        QFETCH(QString, text);
+        PowerSnapshot s;
+        s.estimatedMinutesToFull = minutes;
+        QCOMPARE(s.timeToFullText(), text);
+    }
+
+    void missingTextShowsItsKey()
+    {
+        QCOMPARE(localizedText("no.such.key"), QStringLiteral("no.such.key"));
+        QCOMPARE(localizedFormat("no.such.key", {3, 4}), QStringLiteral("no.such.key"));
+    }
+
+    void equality_data()
+    {
+        QTest::addColumn<PowerSnapshot>("changed");
+        QTest::addColumn<bool>("equalToItself");
+
+        const PowerSnapshot base = notebook(true, true, true, 3.0);
+        auto with = [&](auto change) {
+            PowerSnapshot s = base;
+            change(s);
+            return s;
+        };
+        QTest::newRow("updatedAt") << with([](PowerSnapshot &s) { s.updatedAt += std::chrono::milliseconds(1); }) << true;
+        QTest::newRow("chip power present") << with([](PowerSnapshot &s) { s.chipPower.gpu = 0.0; }) << true;
+        QTest::newRow("optional zero vs absent") << with([](PowerSnapshot &s) { s.cycleCount = 0; }) << true;
+        QTest::newRow("cell list longer") << with([](PowerSnapshot &s) { s.cellVoltagesV.push_back(3.9); }) << true;
+        QTest::newRow("string") << with([](PowerSnapshot &s) { s.deviceName = QString(); }) << true;
+        QTest::newRow("NaN flow") << with([](PowerSnapshot &s) { s.batteryFlowW = kNaN; }) << false;
+        QTest::newRow("NaN chip power") << with([](PowerSnapshot &s) { s.chipPower.ram = kNaN; }) << false;
+        QTest::newRow("NaN optional") << with([](PowerSnapshot &s) { s.lifetimeMaxPackVoltageV = kNaN; }) << false;
+        QTest::newRow("NaN cell") << with([](PowerSnapshot &s) { s.cellVoltagesV = {3.9, kNaN}; }) << false;
+    }
+
+    void equality()
+    {
+        QFETCH(PowerSnapshot, changed);
+        QFETCH(bool, equalToItself);
+        const PowerSnapshot base = notebook(true, true, true, 3.0);
+        QVERIFY(base == base);
+        QVERIFY(!(changed == base));
+        QCOMPARE(changed == changed, equalToItself);
+        const PowerSnapshot copy = changed;
+        QCOMPARE(copy == changed, equalToItself);
+    }
+
+    void emptyIsStampedOnceAndBlank()
+    {
+        const PowerSnapshot &first = PowerSnapshot::empty();
+        QCOMPARE(&PowerSnapshot::empty(), &first);
+        QVERIFY(first.updatedAt.time_since_epoch().count() != 0);
+        PowerSnapshot blank;
+        blank.updatedAt = first.updatedAt;
+        QVERIFY(first == blank);
+    }
+
+    void enumerationsRoundTripByRawValue_data()
+    {
+        QTest::addColumn<QString>("raw");
+        QTest::addColumn<bool>("isCondition");
+        QTest::addColumn<bool>("isCellSource");
+        QTest::newRow("good") << QStringLiteral("good") << true << false;
+        QTest::newRow("fair") << QStringLiteral("fair") << true << false;
+        QTest::newRow("poor") << QStringLiteral("poor") << true << false;
+        QTest::newRow("registry") << QStringLiteral("registry") << false << true;
+        QTest::newRow("smc") << QStringLiteral("smc") << false << true;
+        QTest::newRow("wrong case") << QStringLiteral("Good") << false << false;
+        QTest::newRow("empty") << QString() << false << false;
+    }
+
+    void enumerationsRoundTripByRawValue()
+    {
+        QFETCH(QString, raw);
+        QFETCH(bool, isCondition);
+        QFETCH(bool, isCellSource);
+        const auto condition = batteryHealthConditionFromRaw(raw);
+        QCOMPARE(condition.has_value(), isCondition);
+        if (condition)
+            QCOMPARE(rawValue(*condition), raw);
+        const auto source = batteryCellSourceFromRaw(raw);
+        QCOMPARE(source.has_value(), isCellSource);
+        if (source)
+            QCOMPARE(rawValue(*source), raw);
+    }
+
+    void healthConditionNames()
+    {
+        QCOMPARE(localizedName(BatteryHealthCondition::good), localizedText("battery.health.good"));
+        QCOMPARE(localizedName(BatteryHealthCondition::poor), localizedText("battery.health.poor"));
+        QVERIFY(localizedName(BatteryHealthCondition::fair) != QStringLiteral("battery.health.fair"));
+    }
+};
+
+QTEST_GUILESS_MAIN(PowerSnapshotTest)
+#include "tst_power_snapshot.moc"

@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# Installs what building and testing Ferrow needs, and nothing when it is all there.
+set -euo pipefail
+
+install_debian() {
+    local packages=(cmake ninja-build g++ make pkg-config
+        qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-charts-dev qt6-svg-dev
+        qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
+        libbenchmark-dev fonts-dejavu-core)
+    local missing=()
+    for package in "${packages[@]}"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+
+    local sudo=""
+    [ "$(id -u)" -ne 0 ] && sudo="sudo"
+    echo "Installing ${missing[*]}"
+    $sudo apt-get update -qq
+    DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq "${missing[@]}" >/dev/null
+}
+
+install_macos() {
+    if ! command -v brew >/dev/null 2>&1; then
+        echo "Ferrow builds on macOS with Homebrew (https://brew.sh); please install it first." >&2
+        exit 1
+    fi
+    local formulae=(cmake ninja qt google-benchmark)
+    local missing=()
+    for formula in "${formulae[@]}"; do
+        brew list --formula "$formula" >/dev/null 2>&1 || missing+=("$formula")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    echo "Installing ${missing[*]}"
+    brew install --quiet "${missing[@]}"
+}
+
+case "$(uname -s)" in
+    Linux)
+        if command -v dpkg-query >/dev/null 2>&1; then
+            install_debian
+        else
+            echo "Not a Debian-like system: install CMake, Ninja, a C++20 compiler and Qt 6.4+ yourself." >&2
+        fi
+        ;;
+    Darwin) install_macos ;;
+    *) echo "Unsupported system: $(uname -s)" >&2; exit 1 ;;
+esac
