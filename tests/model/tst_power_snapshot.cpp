@@ -197,6 +197,24 @@ private slots:
         QCOMPARE(s.timeToFullText(), text);
     }
 
+    void everyKeyHasEnglishText_data()
+    {
+        QTest::addColumn<QByteArray>("key");
+        for (const char *key : {"status.external_power", "status.waiting_telemetry", "status.on_battery", "status.charging",
+                                "status.power_connected", "status.fully_charged", "power.ac_connected",
+                                "power.dc_disconnected", "duration.minutes", "duration.hours_minutes",
+                                "battery.health.good", "battery.health.fair", "battery.health.poor"})
+            QTest::newRow(key) << QByteArray(key);
+    }
+
+    void everyKeyHasEnglishText()
+    {
+        QFETCH(QByteArray, key);
+        const QString text = localizedText(key.constData());
+        QVERIFY(!text.isEmpty());
+        QVERIFY2(text != QString::fromLatin1(key), "no English text");
+    }
+
     void missingTextShowsItsKey()
     {
         QCOMPARE(localizedText("no.such.key"), QStringLiteral("no.such.key"));

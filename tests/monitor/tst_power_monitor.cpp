@@ -112,10 +112,13 @@ private slots:
         runEventLoopFor(10 * kFastInterval);
         QCOMPARE(reader->started(), 1);
 
-        reader->release();
-        QTRY_COMPARE(monitor->snapshot().dcPowerW, 1.0);
-        QTRY_COMPARE(reader->started(), 2); // the first tick after the apply starts the next read
-        QCOMPARE(monitor->powerHistory().samples().size(), 1u);
+        // No read may start before the one before it has been applied.
+        QList<int> startedAtApply;
+        connect(monitor.get(), &PowerMonitor::snapshotChanged, this, [&] { startedAtApply << reader->started(); });
+        reader->release(3);
+        QTRY_COMPARE(reader->started(), 4);
+        QCOMPARE(startedAtApply, (QList<int>{1, 2, 3}));
+        QCOMPARE(monitor->powerHistory().samples().size(), 3u);
     }
 
     void resultIsPublishedSnapshotFirstWhileStillRefreshing()
@@ -129,12 +132,13 @@ private slots:
                           .arg(monitor->isRefreshing());
         });
         connect(monitor.get(), &PowerMonitor::snapshotChanged, this, [&] { events << QStringLiteral("snapshot"); });
-        connect(monitor.get(), &PowerMonitor::powerHistoryChanged, this, [&] { events << QStringLiteral("history"); });
+        connect(monitor.get(), &PowerMonitor::powerHistoryChanged, this,
+                [&] { events << QStringLiteral("history:%1").arg(monitor->isRefreshing()); });
 
         monitor->refresh();
         QTRY_VERIFY(!monitor->isRefreshing());
         QCOMPARE(events, (QStringList{QStringLiteral("will:0:0:1"), QStringLiteral("snapshot"),
-                                      QStringLiteral("will:1:0:1"), QStringLiteral("history")}));
+                                      QStringLiteral("will:1:0:1"), QStringLiteral("history:1")}));
         QVERIFY(!monitor->isRunning()); // refresh alone starts no timer
     }
 
