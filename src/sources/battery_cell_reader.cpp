@@ -1,0 +1,107 @@
+#include "sources/battery_cell_reader.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <numeric>
+
+namespace ferrow {
+namespace {
+
+constexpr double kMinimumCellV = 2.0;
+constexpr double kMaximumCellV = 5.0;
+constexpr double kMinimumPackV = 2.0;
+constexpr double kMaximumPackV = 40.0;
+
+bool isPlausibleCell(double volts)
+{
+    return std::isfinite(volts) && volts >= kMinimumCellV && volts <= kMaximumCellV;
+}
+
+std::string cellKey(int cell)
+{
+    return "SBA" + std::to_string(cell);
+}
+
+bool keyExists(StatsSMC &smc, const std::string &key)
+{
+    SMCValue value;
+    value.key = key;
+    return smc.readKey(value) == kIOKitSuccess && value.dataSize != 0;
+}
+
+std::optional<double> readCell(StatsSMC &smc, const std::string &key)
+{
+    SMCValue value;
+    value.key = key;
+    if (smc.readKey(value) != kIOKitSuccess || value.dataType != "flt " || value.dataSize != 4)
+        return std::nullopt;
+    float volts;
+    std::memcpy(&volts, value.bytes.data(), sizeof volts);
+    if (!isPlausibleCell(volts))
+        return std::nullopt;
+    return static_cast<double>(volts);
+}
+
+} // namespace
+
+BatteryCellReader::Reading BatteryCellReader::readCells(StatsSMC &smc)
+{
+    if (!m_keys) {
+        m_keys.emplace();
+        for (int cell = 1; cell <= kMaximumCells; ++cell) {
+            if (keyExists(smc, cellKey(cell)))
+                m_keys->push_back(cellKey(cell));
+        }
+    }
+    if (m_keys->empty())
+        return {};
+    for (std::size_t i = 0; i < m_keys->size(); ++i) {
+        if ((*m_keys)[i] != cellKey(static_cast<int>(i) + 1))
+            return {}; // a gap in the numbering: the cells cannot be matched to the pack
+    }
+
+    Reading reading;
+    for (const std::string &key : *m_keys)
+        reading.cellsV.push_back(readCell(smc, key));
+    reading.packV = smc.readDouble("SBAV");
+    return reading;
+}
+
+CellVoltages resolveCellVoltages(const std::optional<std::vector<double>> &registryMillivolts, bool hasBattery,
+                                 bool smcAllowed, BatteryCellReader &reader, StatsSMC &smc)
+{
+    if (!hasBattery)
+        return {};
+
+    if (registryMillivolts && !registryMillivolts->empty()) {
+        std::vector<double> volts;
+        volts.reserve(registryMillivolts->size());
+        for (const double millivolts : *registryMillivolts)
+            volts.push_back(millivolts / 1000.0);
+        if (volts.size() <= BatteryCellReader::kMaximumCells && std::all_of(volts.begin(), volts.end(), isPlausibleCell))
+            return {std::move(volts), BatteryCellSource::registry};
+    }
+
+    if (!smcAllowed)
+        return {};
+    const BatteryCellReader::Reading reading = reader.readCells(smc);
+    if (reading.cellsV.empty() || reading.cellsV.size() > BatteryCellReader::kMaximumCells)
+        return {};
+    std::vector<double> volts;
+    for (const std::optional<double> &cell : reading.cellsV) {
+        if (!cell || !isPlausibleCell(*cell))
+            return {};
+        volts.push_back(*cell);
+    }
+    if (!reading.packV || !std::isfinite(*reading.packV) || *reading.packV < kMinimumPackV || *reading.packV > kMaximumPackV)
+        return {};
+    const double packV = *reading.packV;
+    const double sumV = std::accumulate(volts.begin(), volts.end(), 0.0);
+    const double toleranceV = std::max(0.03 * packV, 0.2);
+    if (std::fabs(sumV - packV) > toleranceV)
+        return {};
+    return {std::move(volts), BatteryCellSource::smc};
+}
+
+} // namespace ferrow

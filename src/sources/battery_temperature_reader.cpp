@@ -1,0 +1,56 @@
+#include "sources/battery_temperature_reader.h"
+
+#include <cmath>
+
+namespace ferrow {
+namespace {
+
+constexpr const char *kSensorKeys[] = {"TB1T", "TB2T"};
+constexpr int kFirstVersionWithSensors = 27;
+
+} // namespace
+
+bool isPlausibleBatteryTemperature(double celsius)
+{
+    return std::isfinite(celsius) && celsius >= -20.0 && celsius <= 100.0;
+}
+
+std::vector<std::optional<double>> BatteryTemperatureReader::readSensors(StatsSMC &smc)
+{
+    if (!m_availableKeys) {
+        m_availableKeys.emplace();
+        for (const char *key : kSensorKeys) {
+            SMCValue value;
+            value.key = key;
+            if (smc.readKey(value) == kIOKitSuccess && value.dataSize != 0)
+                m_availableKeys->push_back(key);
+        }
+    }
+    std::vector<std::optional<double>> celsius;
+    for (const std::string &key : *m_availableKeys)
+        celsius.push_back(smc.readDouble(key));
+    return celsius;
+}
+
+std::optional<double> resolveTemperature(std::optional<double> registryC, bool hasBattery, int osMajorVersion,
+                                         BatteryTemperatureReader &reader, StatsSMC &smc)
+{
+    if (!hasBattery)
+        return std::nullopt;
+    const std::optional<double> fallbackC =
+        registryC && isPlausibleBatteryTemperature(*registryC) ? registryC : std::nullopt;
+    if (osMajorVersion < kFirstVersionWithSensors)
+        return fallbackC;
+
+    double sumC = 0;
+    int count = 0;
+    for (const std::optional<double> &sensorC : reader.readSensors(smc)) {
+        if (sensorC && isPlausibleBatteryTemperature(*sensorC)) {
+            sumC += *sensorC;
+            ++count;
+        }
+    }
+    return count == 0 ? fallbackC : std::optional<double>(sumC / count);
+}
+
+} // namespace ferrow

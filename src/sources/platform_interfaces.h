@@ -1,0 +1,63 @@
+#pragma once
+
+// The small interfaces through which the decoding and arithmetic of sources/ read the machine.
+// Each backend in platform/ implements them; tests use small fakes.
+
+#include "model/power_snapshot.h"
+#include "sources/property_value.h"
+#include "sources/smc_key_data.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace ferrow {
+
+// The SMC's kernel user client.
+class SMCUserClient {
+public:
+    virtual ~SMCUserClient() = default;
+    // Opens the first "AppleSMC" service; returns its connection handle, or 0 when there is none.
+    virtual std::uint32_t open() = 0;
+    virtual IOKitStatus callStructMethod(std::uint32_t connection, std::uint32_t selector, const SMCKeyData &input,
+                                         SMCKeyData &output) = 0;
+    virtual void close(std::uint32_t connection) = 0;
+};
+
+// One channel of an energy report; any of the three texts may be missing.
+struct EnergyChannelSample {
+    std::optional<QString> group;
+    std::optional<QString> name;
+    std::optional<QString> unitLabel;
+    std::int64_t counter = 0;
+};
+
+// The kernel's energy reports for the processor's power domains.
+class EnergyReportSource {
+public:
+    virtual ~EnergyReportSource() = default;
+    // Subscribes to the "Energy Model" group; false when energy reports cannot be had.
+    virtual bool subscribe() = 0;
+    // The counters of every subscribed channel now, or absent when no sample could be taken.
+    virtual std::optional<std::vector<EnergyChannelSample>> sample() = 0;
+};
+
+// The I/O Registry's property dictionaries.
+class RegistryPropertySource {
+public:
+    virtual ~RegistryPropertySource() = default;
+    // The whole property dictionary of the first service of that class, or absent.
+    virtual std::optional<PropertyDictionary> registryProperties(const QString &className) = 0;
+};
+
+// Wall-clock time, and monotonic seconds since boot for rates.
+class Clock {
+public:
+    virtual ~Clock() = default;
+    virtual WallTime now() const = 0;
+    virtual double uptimeSeconds() const = 0;
+};
+
+} // namespace ferrow

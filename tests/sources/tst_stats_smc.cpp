@@ -1,0 +1,268 @@
+#include "platform/common/in_memory_smc.h"
+#include "sources/stats_smc.h"
+
+#include <QTest>
+
+#include <cmath>
+#include <cstring>
+
+using namespace ferrow;
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+// Forwards to the in-memory SMC and keeps every input block, to check what goes over the wire.
+class RecordingClient final : public SMCUserClient {
+public:
+    explicit RecordingClient(InMemorySMC &smc) : m_smc(smc) {}
+    std::uint32_t open() override { return m_smc.open(); }
+    void close(std::uint32_t connection) override { m_smc.close(connection); }
+    IOKitStatus callStructMethod(std::uint32_t connection, std::uint32_t selector, const SMCKeyData &input,
+                                 SMCKeyData &output) override
+    {
+        inputs.push_back(input);
+        selectors.push_back(selector);
+        return m_smc.callStructMethod(connection, selector, input, output);
+    }
+
+    std::vector<SMCKeyData> inputs;
+    std::vector<std::uint32_t> selectors;
+
+private:
+    InMemorySMC &m_smc;
+};
+
+// An SMC client over a table that the test keeps a hand on.
+struct SMCFixture {
+    InMemorySMC *table = new InMemorySMC;
+    StatsSMC smc{std::unique_ptr<SMCUserClient>(table)};
+};
+
+QByteArray toByteArray(const Bytes &bytes)
+{
+    return QByteArray(reinterpret_cast<const char *>(bytes.data()), static_cast<qsizetype>(bytes.size()));
+}
+
+Bytes fromHex(const char *hex)
+{
+    const QByteArray raw = QByteArray::fromHex(hex);
+    return Bytes(raw.begin(), raw.end());
+}
+
+bool isAllZero(const void *data, std::size_t size)
+{
+    const auto *bytes = static_cast<const std::uint8_t *>(data);
+    return std::all_of(bytes, bytes + size, [](std::uint8_t b) { return b == 0; });
+}
+
+} // namespace
+
+class StatsSMCTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void readDouble_data()
+    {
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<int>("reportedSize");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QVariant>("expected");
+
+        const auto row = [](const char *name, const char *type, int size, const char *hex, QVariant expected) {
+            QTest::newRow(name) << QByteArray(type) << size << QByteArray::fromHex(hex) << expected;
+        };
+        row("sp78 26.5", "sp78", 2, "1a80", 26.5);
+        row("sp78 is unsigned", "sp78", 2, "ff00", 255.0);
+        row("sp1e 1.0", "sp1e", 2, "4000", 1.0);
+        row("sp3c", "sp3c", 2, "1000", 1.0);
+        row("sp4b", "sp4b", 2, "0800", 1.0);
+        row("sp5a", "sp5a", 2, "0400", 1.0);
+        row("sp69", "sp69", 2, "0200", 1.0);
+        row("sp87", "sp87", 2, "0180", 3.0);
+        row("sp96", "sp96", 2, "00c0", 3.0);
+        row("spa5", "spa5", 2, "0050", 2.5);
+        row("spb4 max", "spb4", 2, "ffff", 65535.0 / 16);
+        row("spf0 258", "spf0", 2, "0102", 258.0);
+        row("fpe2 drops the fraction", "fpe2", 2, "1237", 1165.0);
+        row("flt 1.0 little-endian", "flt ", 4, "0000803f", 1.0);
+        row("flt negative", "flt ", 4, "0000a0c0", -5.0);
+        row("ui8", "ui8 ", 1, "fe", 254.0);
+        row("ui16 big-endian", "ui16", 2, "0102", 258.0);
+        row("ui16 with size 1 keeps only b0", "ui16", 1, "0102", 256.0);
+        row("ui32 65536", "ui32", 4, "00010000", 65536.0);
+        row("ui32 max", "ui32", 4, "ffffffff", 4294967295.0);
+        row("all-zero flt is absent", "flt ", 4, "00000000", QVariant());
+        row("all-zero ui8 is absent", "ui8 ", 1, "00", QVariant());
+        row("signed type is unknown", "si16", 2, "0102", QVariant());
+        row("type without trailing space", "flt", 4, "0000803f", QVariant());
+        row("type in other case", "SP78", 2, "1a80", QVariant());
+        row("data size 0 is an unknown key", "sp78", 0, "1a80", QVariant());
+        row("bytes beyond the size are not copied", "ui8 ", 1, "00ff", QVariant());
+        row("oversized key: first bytes decode", "ui32", 40,
+            "0000000200000000000000000000000000000000000000000000000000000000ffffffffffffffff", 2.0);
+    }
+
+    void readDouble()
+    {
+        QFETCH(QByteArray, type);
+        QFETCH(int, reportedSize);
+        QFETCH(QByteArray, bytes);
+        QFETCH(QVariant, expected);
+
+        SMCFixture f;
+        f.table->setEntry("TEST", {type.toStdString(), static_cast<std::uint32_t>(reportedSize), Bytes(bytes.begin(), bytes.end())});
+        const std::optional<double> value = f.smc.readDouble("TEST");
+        QCOMPARE(value.has_value(), expected.isValid());
+        if (value)
+            QCOMPARE(*value, expected.toDouble());
+    }
+
+    void oversizedKeyCopiesOnly32Bytes()
+    {
+        SMCFixture f;
+        Bytes bytes(40, 0xAB);
+        f.table->setEntry("LONG", {"ch8*", 40, bytes});
+        SMCValue value;
+        value.key = "LONG";
+        QCOMPARE(f.smc.readKey(value), kIOKitSuccess);
+        QCOMPARE(value.dataSize, 40u);
+        QCOMPARE(value.dataType, std::string("ch8*"));
+        QVERIFY(std::all_of(value.bytes.begin(), value.bytes.end(), [](std::uint8_t b) { return b == 0xAB; }));
+    }
+
+    void wireBlocksOfOneRead()
+    {
+        InMemorySMC table;
+        table.setKey("PDTR", "flt ", smcBytesOfFloat(12.5f));
+        auto *client = new RecordingClient(table);
+        StatsSMC smc{std::unique_ptr<SMCUserClient>(client)};
+
+        QCOMPARE(smc.readDouble("PDTR"), std::optional<double>(12.5));
+        QCOMPARE(client->inputs.size(), 2u);
+        QCOMPARE(client->selectors, (std::vector<std::uint32_t>{2, 2}));
+
+        const SMCKeyData &info = client->inputs[0];
+        QCOMPARE(info.key, 0x50445452u); // 'P' in the most significant byte
+        QCOMPARE(info.command, kSMCCommandReadKeyInfo);
+        QCOMPARE(info.keyInfo.dataSize, 0u);
+        const SMCKeyData &read = client->inputs[1];
+        QCOMPARE(read.key, info.key);
+        QCOMPARE(read.command, kSMCCommandReadBytes);
+        QCOMPARE(read.keyInfo.dataSize, 4u);
+        // Every other field goes out as zero.
+        for (const SMCKeyData &block : client->inputs) {
+            QVERIFY(isAllZero(&block.version, sizeof block.version));
+            QVERIFY(isAllZero(&block.powerLimits, sizeof block.powerLimits));
+            QCOMPARE(block.keyInfo.dataType, 0u);
+            QCOMPARE(block.keyInfo.dataAttributes, 0);
+            QCOMPARE(block.result, 0);
+            QCOMPARE(block.status, 0);
+            QCOMPARE(block.data32, 0u);
+            QVERIFY(isAllZero(block.bytes, sizeof block.bytes));
+        }
+    }
+
+    void everyReadMakesBothCalls_data()
+    {
+        QTest::addColumn<bool>("keyExists");
+        QTest::newRow("existing key") << true;
+        QTest::newRow("unknown key") << false;
+    }
+
+    void everyReadMakesBothCalls()
+    {
+        QFETCH(bool, keyExists);
+        SMCFixture f;
+        if (keyExists)
+            f.table->setKey("VD0R", "flt ", smcBytesOfFloat(20.1f));
+        for (int i = 0; i < 3; ++i)
+            f.smc.readDouble("VD0R");
+        QCOMPARE(f.table->callCount(), 6); // nothing is cached between reads
+    }
+
+    void failingCalls_data()
+    {
+        QTest::addColumn<int>("failingCommand");
+        QTest::addColumn<std::uint32_t>("dataSizeAfter");
+        QTest::addColumn<QByteArray>("typeAfter");
+        QTest::addColumn<int>("calls");
+        QTest::newRow("key info fails: record unchanged") << int(kSMCCommandReadKeyInfo) << 0u << QByteArray() << 1;
+        QTest::newRow("read fails: size and type kept, bytes not") << int(kSMCCommandReadBytes) << 2u << QByteArray("sp78") << 2;
+    }
+
+    void failingCalls()
+    {
+        QFETCH(int, failingCommand);
+        QFETCH(std::uint32_t, dataSizeAfter);
+        QFETCH(QByteArray, typeAfter);
+        QFETCH(int, calls);
+
+        SMCFixture f;
+        f.table->setKey("TB1T", "sp78", fromHex("1e00"));
+        constexpr IOKitStatus kBusy = static_cast<IOKitStatus>(0xE00002D5u);
+        f.table->setFailure("TB1T", kBusy, static_cast<std::uint8_t>(failingCommand));
+
+        SMCValue value;
+        value.key = "TB1T";
+        QCOMPARE(f.smc.readKey(value), kBusy);
+        QCOMPARE(value.dataSize, dataSizeAfter);
+        QCOMPARE(QByteArray::fromStdString(value.dataType), typeAfter);
+        QVERIFY(isAllZero(value.bytes.data(), value.bytes.size()));
+        QCOMPARE(f.table->callCount(), calls);
+        QCOMPARE(f.smc.readDouble("TB1T"), std::nullopt);
+    }
+
+    void withoutTheServiceNothingIsCalled()
+    {
+        auto *table = new InMemorySMC;
+        table->setServicePresent(false);
+        table->setKey("PSTR", "flt ", smcBytesOfFloat(7.0f));
+        StatsSMC smc{std::unique_ptr<SMCUserClient>(table)};
+        QVERIFY(!smc.isOpen());
+        SMCValue value;
+        value.key = "PSTR";
+        QCOMPARE(smc.readKey(value), kIOKitReturnNotOpen);
+        QCOMPARE(smc.readDouble("PSTR"), std::nullopt);
+        QCOMPARE(table->callCount(), 0);
+    }
+
+    void connectionIsClosedOnceOnDestruction()
+    {
+        InMemorySMC table;
+        auto *client = new RecordingClient(table);
+        {
+            StatsSMC smc{std::unique_ptr<SMCUserClient>(client)};
+            QCOMPARE(table.openConnections(), 1);
+        }
+        QCOMPARE(table.openConnections(), 0);
+    }
+
+    void keyAndTypeCodes_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<std::uint32_t>("code");
+        QTest::newRow("PDTR") << QByteArray("PDTR") << 0x50445452u;
+        QTest::newRow("sp78") << QByteArray("sp78") << 0x73703738u;
+        QTest::newRow("flt with space") << QByteArray("flt ") << 0x666c7420u;
+        QTest::newRow("high bytes") << QByteArray("\xff\x80\x01\x00", 4) << 0xff800100u;
+    }
+
+    void keyAndTypeCodes()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(std::uint32_t, code);
+        QCOMPARE(StatsSMC::encodeKey(text.toStdString()), code);
+        QCOMPARE(QByteArray::fromStdString(StatsSMC::decodeType(code)), text);
+    }
+
+    void encodersMatchTheDecoder()
+    {
+        QCOMPARE(toByteArray(smcBytesOfFixedPoint(26.5, 8)), QByteArray::fromHex("1a80"));
+        QCOMPARE(toByteArray(smcBytesOfUnsigned(65536, 4)), QByteArray::fromHex("00010000"));
+        QCOMPARE(toByteArray(smcBytesOfFloat(1.0f)), QByteArray::fromHex("0000803f"));
+    }
+};
+
+QTEST_GUILESS_MAIN(StatsSMCTest)
+#include "tst_stats_smc.moc"
