@@ -7,7 +7,9 @@
 #include "sources/property_value.h"
 #include "sources/smc_key_data.h"
 
+#include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <cstdint>
 #include <optional>
@@ -58,6 +60,28 @@ public:
     virtual ~Clock() = default;
     virtual WallTime now() const = 0;
     virtual double uptimeSeconds() const = 0;
+};
+
+// What a finished child process left: its exit status and everything it wrote to standard output.
+struct CommandResult {
+    int exitStatus = 0;
+    QByteArray standardOutput;
+};
+
+// Runs a program by absolute path, without a shell, standard error to the null device.
+class CommandRunner {
+public:
+    virtual ~CommandRunner() = default;
+    // Absent when the program could not be started or did not finish in time.
+    virtual std::optional<CommandResult> run(const QString &program, const QStringList &arguments) = 0;
+};
+
+// The power-source service: one description dictionary per source, as untyped values.
+class PowerSourceList {
+public:
+    virtual ~PowerSourceList() = default;
+    // Absent when the power-source snapshot or its list could not be had.
+    virtual std::optional<PropertyList> powerSourceDescriptions() = 0;
 };
 
 } // namespace ferrow

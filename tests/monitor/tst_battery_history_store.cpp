@@ -1,0 +1,293 @@
+#include "monitor/battery_history_store.h"
+#include "platform/common/in_memory_key_value_store.h"
+#include "platform/common/settings_key_value_store.h"
+
+#include <QJsonDocument>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <limits>
+
+using namespace ferrow;
+
+namespace {
+
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInf = std::numeric_limits<double>::infinity();
+const std::optional<QString> kSerial = QStringLiteral("F8Y1234567AB");
+const std::optional<QString> kOtherSerial = QStringLiteral("D3X7654321CD");
+
+using Optionals = QList<QVariant>; // QVariant() is absent
+
+std::optional<double> opt(const QVariant &v)
+{
+    return v.isValid() ? std::optional(v.toDouble()) : std::nullopt;
+}
+
+QVariant var(const std::optional<double> &v)
+{
+    return v ? QVariant(*v) : QVariant();
+}
+
+Optionals fieldsOf(const BatteryElectricalHistory &r)
+{
+    return {var(r.maximumVoltageV), var(r.minimumVoltageV), var(r.maximumChargeCurrentA), var(r.maximumDischargeCurrentA)};
+}
+
+Optionals fieldsOf(const BatteryTemperatureHistory &r)
+{
+    return {var(r.maximumC), var(r.minimumC), var(r.averageC), QVariant::fromValue<qulonglong>(r.sampleCount)};
+}
+
+QString electricalKey(const std::optional<QString> &serial)
+{
+    return BatteryHistoryStore::kElectricalKeyPrefix + BatteryHistoryStore::batteryIdentifier(serial).value();
+}
+
+QString temperatureKey(const std::optional<QString> &serial)
+{
+    return BatteryHistoryStore::kTemperatureKeyPrefix + BatteryHistoryStore::batteryIdentifier(serial).value();
+}
+
+} // namespace
+
+class BatteryHistoryStoreTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void electricalRecord_data()
+    {
+        QTest::addColumn<Optionals>("voltages");
+        QTest::addColumn<Optionals>("currents");
+        QTest::addColumn<Optionals>("expected"); // max V, min V, max charge A, max discharge A
+        const QVariant none;
+        QTest::newRow("voltage extremes") << Optionals{12.1, 12.6, 11.9} << Optionals{none, none, none}
+                                          << Optionals{12.6, 11.9, none, none};
+        QTest::newRow("voltages out of range") << Optionals{31.0, 1.5, kNaN, kInf} << Optionals{none, none, none, none}
+                                               << Optionals{none, none, none, none};
+        QTest::newRow("voltage bounds inclusive") << Optionals{2.0, 30.0} << Optionals{none, none} << Optionals{30.0, 2.0, none, none};
+        QTest::newRow("currents by sign") << Optionals{none, none, none} << Optionals{2.0, -3.5, 0.0} << Optionals{none, none, 2.0, 3.5};
+        QTest::newRow("currents out of range") << Optionals{none, none, none} << Optionals{-120.0, 100.5, kNaN}
+                                               << Optionals{none, none, none, none};
+        QTest::newRow("current bounds inclusive") << Optionals{none, none} << Optionals{100.0, -100.0} << Optionals{none, none, 100.0, 100.0};
+        QTest::newRow("only larger magnitudes stick") << Optionals{none, none, none} << Optionals{-4.0, -1.0, 3.0}
+                                                      << Optionals{none, none, 3.0, 4.0};
+    }
+
+    void electricalRecord()
+    {
+        QFETCH(Optionals, voltages);
+        QFETCH(Optionals, currents);
+        QFETCH(Optionals, expected);
+        BatteryElectricalHistory record;
+        for (qsizetype i = 0; i < voltages.size(); ++i)
+            record.record(opt(voltages[i]), opt(currents[i]));
+        QCOMPARE(fieldsOf(record), expected);
+    }
+
+    void temperatureRecord_data()
+    {
+        QTest::addColumn<Optionals>("temperatures");
+        QTest::addColumn<Optionals>("expected"); // max, min, average, count
+        const QVariant none;
+        QTest::newRow("running mean") << Optionals{30.0, 32.0, 34.0} << Optionals{34.0, 30.0, 32.0, qulonglong(3)};
+        QTest::newRow("implausible ignored") << Optionals{none, kNaN, -20.5, 100.5, 25.0} << Optionals{25.0, 25.0, 25.0, qulonglong(1)};
+        QTest::newRow("bounds inclusive") << Optionals{-20.0, 100.0} << Optionals{100.0, -20.0, 40.0, qulonglong(2)};
+        QTest::newRow("nothing yet") << Optionals{} << Optionals{none, none, none, qulonglong(0)};
+    }
+
+    void temperatureRecord()
+    {
+        QFETCH(Optionals, temperatures);
+        QFETCH(Optionals, expected);
+        BatteryTemperatureHistory record;
+        for (const QVariant &t : temperatures)
+            record.record(opt(t));
+        QCOMPARE(fieldsOf(record), expected);
+    }
+
+    void temperatureCountSaturates()
+    {
+        BatteryTemperatureHistory record{30.0, 30.0, 30.0, std::numeric_limits<std::uint64_t>::max()};
+        const BatteryTemperatureHistory before = record;
+        record.record(99.0);
+        QVERIFY(record == before);
+    }
+
+    // What a stored temperature record loads as: itself when readable and plausible, else fresh.
+    void storedTemperatureRecord_data()
+    {
+        QTest::addColumn<QByteArray>("stored");
+        QTest::addColumn<bool>("kept");
+        QTest::newRow("valid") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"averageC\":29.75,\"sampleCount\":640}") << true;
+        QTest::newRow("keys in any order") << QByteArray("{\"sampleCount\":1,\"averageC\":30,\"minimumC\":30,\"maximumC\":30}") << true;
+        QTest::newRow("count zero") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"averageC\":29.75,\"sampleCount\":0}") << false;
+        QTest::newRow("average above maximum") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"averageC\":39,\"sampleCount\":5}") << false;
+        QTest::newRow("maximum 120") << QByteArray("{\"maximumC\":120,\"minimumC\":21.25,\"averageC\":29.75,\"sampleCount\":5}") << false;
+        QTest::newRow("no sampleCount") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"averageC\":29.75}") << false;
+        QTest::newRow("no averageC") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"sampleCount\":5}") << false;
+        QTest::newRow("null averageC") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"averageC\":null,\"sampleCount\":5}") << false;
+        QTest::newRow("negative count") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"averageC\":29.75,\"sampleCount\":-1}") << false;
+        QTest::newRow("fractional count") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"averageC\":29.75,\"sampleCount\":1.5}") << false;
+        QTest::newRow("string value") << QByteArray("{\"maximumC\":\"38.5\",\"minimumC\":21.25,\"averageC\":29.75,\"sampleCount\":5}") << false;
+        QTest::newRow("huge number") << QByteArray("{\"maximumC\":1e999,\"minimumC\":21.25,\"averageC\":29.75,\"sampleCount\":5}") << false;
+        QTest::newRow("truncated") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"aver") << false;
+        QTest::newRow("garbage") << QByteArray("\xff\xfe\x00garbage", 10) << false;
+        QTest::newRow("array") << QByteArray("[1,2,3]") << false;
+    }
+
+    void storedTemperatureRecord()
+    {
+        QFETCH(QByteArray, stored);
+        QFETCH(bool, kept);
+        InMemoryKeyValueStore defaults;
+        defaults.setData(temperatureKey(kSerial), stored);
+        BatteryHistoryStore store(defaults);
+        const BatteryTemperatureHistory record = store.recordTemperature(kSerial, std::nullopt);
+        if (kept)
+            QCOMPARE(encodeRecord(record), std::optional(QJsonDocument::fromJson(stored).toJson(QJsonDocument::Compact)));
+        else
+            QVERIFY(record == BatteryTemperatureHistory{});
+    }
+
+    void storedElectricalRecord_data()
+    {
+        QTest::addColumn<QByteArray>("stored");
+        QTest::addColumn<Optionals>("loaded");
+        const QVariant none;
+        QTest::newRow("valid") << QByteArray("{\"maximumVoltageV\":12.9,\"minimumVoltageV\":10.8,\"maximumChargeCurrentA\":4.1,\"maximumDischargeCurrentA\":6.2}")
+                               << Optionals{12.9, 10.8, 4.1, 6.2};
+        QTest::newRow("max 35 dropped, min becomes both") << QByteArray("{\"maximumVoltageV\":35.0,\"minimumVoltageV\":11.0}")
+                                                          << Optionals{11.0, 11.0, none, none};
+        QTest::newRow("nulls and missing keys") << QByteArray("{\"maximumVoltageV\":null,\"maximumChargeCurrentA\":3}")
+                                                << Optionals{none, none, 3.0, none};
+        QTest::newRow("implausible current dropped") << QByteArray("{\"maximumChargeCurrentA\":500,\"maximumDischargeCurrentA\":2}")
+                                                     << Optionals{none, none, none, 2.0};
+        QTest::newRow("negative discharge magnitude is a charge") << QByteArray("{\"maximumDischargeCurrentA\":-2}")
+                                                                  << Optionals{none, none, 2.0, none};
+        QTest::newRow("wrong type: fresh") << QByteArray("{\"maximumVoltageV\":true,\"minimumVoltageV\":11.0}")
+                                           << Optionals{none, none, none, none};
+        QTest::newRow("empty object") << QByteArray("{}") << Optionals{none, none, none, none};
+        QTest::newRow("not JSON") << QByteArray("nope") << Optionals{none, none, none, none};
+    }
+
+    void storedElectricalRecord()
+    {
+        QFETCH(QByteArray, stored);
+        QFETCH(Optionals, loaded);
+        InMemoryKeyValueStore defaults;
+        defaults.setData(electricalKey(kSerial), stored);
+        BatteryHistoryStore store(defaults);
+        QCOMPARE(fieldsOf(store.recordElectrical(kSerial, std::nullopt, std::nullopt)), loaded);
+    }
+
+    void identifierIsAStableHexDigest()
+    {
+        const std::optional<QString> id = BatteryHistoryStore::batteryIdentifier(QStringLiteral("abc"));
+        QCOMPARE(id, std::optional(QStringLiteral("ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad")));
+        const QString suffix = *BatteryHistoryStore::batteryIdentifier(kSerial);
+        QVERIFY(QRegularExpression(QStringLiteral("^[0-9a-f]{64}$")).match(suffix).hasMatch());
+        QCOMPARE(BatteryHistoryStore::batteryIdentifier(kSerial), std::optional(suffix));
+        QVERIFY(BatteryHistoryStore::batteryIdentifier(kOtherSerial) != std::optional(suffix));
+        QCOMPARE(BatteryHistoryStore::batteryIdentifier(QString()), std::nullopt);
+        QCOMPARE(BatteryHistoryStore::batteryIdentifier(std::nullopt), std::nullopt);
+    }
+
+    void withoutASerialNothingIsReadOrWritten()
+    {
+        InMemoryKeyValueStore defaults;
+        const QByteArray planted("{\"maximumVoltageV\":12.0,\"minimumVoltageV\":12.0}");
+        defaults.setData(BatteryHistoryStore::kElectricalKeyPrefix + QStringLiteral("session"), planted);
+        const int writesBefore = defaults.writeCount();
+        BatteryHistoryStore store(defaults);
+        for (const std::optional<QString> &serial : {std::optional<QString>(), std::optional(QString())}) {
+            store.recordElectrical(serial, 12.5, -2.0);
+            store.recordTemperature(serial, 30.0);
+        }
+        const BatteryElectricalHistory session = store.recordElectrical(std::nullopt, 12.4, std::nullopt);
+        QCOMPARE(fieldsOf(session), (Optionals{12.5, 12.4, QVariant(), 2.0})); // not the planted 12.0, and kept in memory
+        QCOMPARE(store.recordTemperature(std::nullopt, std::nullopt).sampleCount, 2u);
+        QCOMPARE(defaults.writeCount(), writesBefore);
+    }
+
+    void writesOnlyWhenARecordChanges()
+    {
+        InMemoryKeyValueStore defaults;
+        BatteryHistoryStore store(defaults);
+        store.recordElectrical(kSerial, 12.0, 1.0);
+        QCOMPARE(defaults.writeCount(), 1);
+        store.recordElectrical(kSerial, 12.0, 0.5); // no extreme moves
+        store.recordElectrical(kSerial, 40.0, -500.0); // implausible
+        QCOMPARE(defaults.writeCount(), 1);
+        store.recordElectrical(kSerial, 12.2, 0.5);
+        QCOMPARE(defaults.writeCount(), 2);
+
+        store.recordTemperature(kSerial, 30.0);
+        store.recordTemperature(kSerial, 30.0); // the count grows: saved every time
+        store.recordTemperature(kSerial, 150.0);
+        QCOMPARE(defaults.writeCount(), 4);
+        QCOMPARE(defaults.values().at(electricalKey(kSerial)),
+                 QByteArray("{\"maximumChargeCurrentA\":1,\"maximumVoltageV\":12.2,\"minimumVoltageV\":12}"));
+    }
+
+    void eachKeyIsLoadedOnce()
+    {
+        InMemoryKeyValueStore defaults;
+        BatteryHistoryStore store(defaults);
+        store.recordTemperature(kSerial, 30.0);
+        defaults.setData(temperatureKey(kSerial), QByteArray("{\"maximumC\":50,\"minimumC\":10,\"averageC\":20,\"sampleCount\":99}"));
+        QCOMPARE(store.recordTemperature(kSerial, 31.0).sampleCount, 2u); // memory is the truth now
+    }
+
+    void batteriesNeverShareRecords()
+    {
+        InMemoryKeyValueStore defaults;
+        BatteryHistoryStore store(defaults);
+        store.recordElectrical(kSerial, 12.0, 3.0);
+        const QByteArray first = defaults.values().at(electricalKey(kSerial));
+        const BatteryElectricalHistory other = store.recordElectrical(kOtherSerial, 8.0, -1.0);
+        QCOMPARE(fieldsOf(other), (Optionals{8.0, 8.0, QVariant(), 1.0}));
+        QCOMPARE(defaults.values().at(electricalKey(kSerial)), first);
+    }
+
+    // The real preferences backend: corrupt entries give fresh records, nothing else is touched,
+    // and what was saved comes back after a restart.
+    void settingsBackendSurvivesCorruptionAndRestart()
+    {
+        QTemporaryDir directory;
+        QVERIFY(directory.isValid());
+        const QString file = directory.filePath(QStringLiteral("ferrow.ini"));
+        const QString foreignKey = QStringLiteral("showPowerInMenuBar");
+        const QString otherBatteryKey = temperatureKey(kOtherSerial);
+        const QByteArray otherBatteryRecord("{\"averageC\":30,\"maximumC\":31,\"minimumC\":29,\"sampleCount\":7}");
+        {
+            QSettings seed(file, QSettings::IniFormat);
+            seed.setValue(temperatureKey(kSerial), QByteArray("\x00\x01{garbage", 10));
+            seed.setValue(electricalKey(kSerial), QStringLiteral("a string, not data"));
+            seed.setValue(foreignKey, false);
+            seed.setValue(otherBatteryKey, otherBatteryRecord);
+            seed.setValue(QStringLiteral("batteryTemperatureHistory.v1.junk"), 12345);
+        }
+        {
+            SettingsKeyValueStore defaults(file, QSettings::IniFormat);
+            BatteryHistoryStore store(defaults);
+            QCOMPARE(store.recordTemperature(kSerial, 33.0).sampleCount, 1u);
+            QCOMPARE(fieldsOf(store.recordElectrical(kSerial, 12.3, -4.0)), (Optionals{12.3, 12.3, QVariant(), 4.0}));
+        }
+        {
+            SettingsKeyValueStore defaults(file, QSettings::IniFormat);
+            BatteryHistoryStore store(defaults);
+            QCOMPARE(fieldsOf(store.recordTemperature(kSerial, 35.0)), (Optionals{35.0, 33.0, 34.0, qulonglong(2)}));
+            QCOMPARE(fieldsOf(store.recordElectrical(kSerial, 12.0, std::nullopt)), (Optionals{12.3, 12.0, QVariant(), 4.0}));
+        }
+        QSettings check(file, QSettings::IniFormat);
+        QCOMPARE(check.value(foreignKey).toBool(), false);
+        QCOMPARE(check.value(otherBatteryKey).toByteArray(), otherBatteryRecord);
+        QCOMPARE(check.value(QStringLiteral("batteryTemperatureHistory.v1.junk")).toInt(), 12345);
+        QCOMPARE(check.allKeys().size(), 5);
+    }
+};
+
+QTEST_GUILESS_MAIN(BatteryHistoryStoreTest)
+#include "tst_battery_history_store.moc"

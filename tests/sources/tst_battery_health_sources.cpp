@@ -1,0 +1,262 @@
+#include "sources/battery_health_sources.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace ferrow;
+using namespace std::chrono_literals;
+
+Q_DECLARE_METATYPE(std::optional<ferrow::PropertyList>)
+
+namespace {
+
+class FakeClock final : public Clock {
+public:
+    WallTime now() const override { return time; }
+    double uptimeSeconds() const override { return 0; }
+    WallTime time = WallTime() + std::chrono::hours(24 * 365 * 55);
+};
+
+class FakeRunner final : public CommandRunner {
+public:
+    std::optional<CommandResult> run(const QString &program, const QStringList &arguments) override
+    {
+        ++runs;
+        lastProgram = program;
+        lastArguments = arguments;
+        return result;
+    }
+
+    std::optional<CommandResult> result;
+    int runs = 0;
+    QString lastProgram;
+    QStringList lastArguments;
+};
+
+class FakePowerSources final : public PowerSourceList {
+public:
+    std::optional<PropertyList> powerSourceDescriptions() override { return descriptions; }
+    std::optional<PropertyList> descriptions;
+};
+
+QByteArray profilerOutput(const QJsonArray &sections)
+{
+    return QJsonDocument(QJsonObject{{QStringLiteral("SPPowerDataType"), sections}}).toJson();
+}
+
+QJsonObject batterySection(const QJsonValue &maximumCapacity)
+{
+    return QJsonObject{{QStringLiteral("sppower_battery_health_info"),
+                        QJsonObject{{QStringLiteral("sppower_battery_health_maximum_capacity"), maximumCapacity},
+                                    {QStringLiteral("sppower_battery_health"), QStringLiteral("Good")}}}};
+}
+
+CommandResult exited(int status, const QByteArray &output = {})
+{
+    return CommandResult{status, output};
+}
+
+PropertyValue source(const char *type, std::optional<const char *> health)
+{
+    PropertyDictionary description{{QStringLiteral("Type"), QString::fromLatin1(type)}};
+    if (health)
+        description[QStringLiteral("BatteryHealth")] = QString::fromLatin1(*health);
+    return description;
+}
+
+} // namespace
+
+class BatteryHealthSourcesTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void maximumCapacityText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QVariant>("percent");
+        const QVariant none;
+        const auto row = [](const char *text, QVariant percent) {
+            QTest::newRow(text) << QString::fromUtf8(text) << percent;
+        };
+        row("87%", 87);
+        row("100%", 100);
+        row("%92%", 92);
+        row("87", 87);
+        row("87%%", 87);
+        row("0%", 0);
+        row("+7", 7);
+        row("-0", 0);
+        row("87 %", none);
+        row(" 87%", none);
+        row("101%", none);
+        row("-5%", none);
+        row("8%7", none);
+        row("8.7%", none);
+        row("", none);
+        row("%", none);
+        row("+", none);
+        row("+-7", none);
+        row("99999999999999999999%", none);
+        row("\u0668\u0667%", none); // digits, but not ASCII ones
+    }
+
+    void maximumCapacityText()
+    {
+        QFETCH(QString, text);
+        QFETCH(QVariant, percent);
+        const auto parsed = BatteryHealthSources::maximumCapacityPercentFromProfiler(profilerOutput({batterySection(text)}));
+        QCOMPARE(parsed.has_value(), percent.isValid());
+        if (parsed)
+            QCOMPARE(*parsed, percent.toLongLong());
+    }
+
+    void profilerDocumentShapes_data()
+    {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QVariant>("percent");
+        const QVariant none;
+        const QJsonObject unrelated{{QStringLiteral("sppower_ac_charger_watts"), QStringLiteral("96")}};
+
+        QTest::newRow("first unparsable, second 91") << profilerOutput({batterySection(QStringLiteral("n/a")), batterySection(QStringLiteral("91%"))}) << QVariant(91);
+        QTest::newRow("first out of range, second used") << profilerOutput({batterySection(QStringLiteral("101%")), batterySection(QStringLiteral("88%"))}) << QVariant(88);
+        QTest::newRow("section without health info first") << profilerOutput({unrelated, batterySection(QStringLiteral("80%"))}) << QVariant(80);
+        QTest::newRow("first usable section wins") << profilerOutput({batterySection(QStringLiteral("80%")), batterySection(QStringLiteral("70%"))}) << QVariant(80);
+        QTest::newRow("a number, not a string") << profilerOutput({batterySection(87)}) << none;
+        QTest::newRow("health info not an object")
+            << profilerOutput({QJsonObject{{QStringLiteral("sppower_battery_health_info"), QStringLiteral("87%")}}}) << none;
+        QTest::newRow("one section not an object spoils all") << profilerOutput({batterySection(QStringLiteral("87%")), 5}) << none;
+        QTest::newRow("no sections") << profilerOutput({}) << none;
+        QTest::newRow("sections not an array") << QByteArray(R"({"SPPowerDataType":{"a":1}})") << none;
+        QTest::newRow("member missing") << QByteArray(R"({"SPOther":[]})") << none;
+        QTest::newRow("top level an array") << QByteArray(R"([{"SPPowerDataType":[]}])") << none;
+        QTest::newRow("not JSON") << QByteArray("system_profiler: unknown data type") << none;
+        QTest::newRow("truncated") << profilerOutput({batterySection(QStringLiteral("87%"))}).chopped(3) << none;
+        QTest::newRow("empty") << QByteArray() << none;
+    }
+
+    void profilerDocumentShapes()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(QVariant, percent);
+        const auto parsed = BatteryHealthSources::maximumCapacityPercentFromProfiler(json);
+        QCOMPARE(parsed.has_value(), percent.isValid());
+        if (parsed)
+            QCOMPARE(*parsed, percent.toLongLong());
+    }
+
+    void profilerRunsAtMostEverySixHours()
+    {
+        FakeClock clock;
+        FakeRunner runner;
+        FakePowerSources powerSources;
+        BatteryHealthSources health(runner, powerSources, clock);
+        const WallTime start = clock.time;
+
+        // Never tried: the first reading runs the tool, even with nothing cached. It fails.
+        runner.result = exited(1, profilerOutput({batterySection(QStringLiteral("87%"))}));
+        QCOMPARE(health.systemBatteryHealthPercent(), std::nullopt);
+        QCOMPARE(runner.runs, 1);
+        QCOMPARE(runner.lastProgram, QStringLiteral("/usr/sbin/system_profiler"));
+        QCOMPARE(runner.lastArguments, (QStringList{QStringLiteral("-json"), QStringLiteral("SPPowerDataType")}));
+        QCOMPARE(health.lastSystemBatteryHealthReadAt(), std::optional(start));
+
+        // Tried, no value: absent until the interval has passed, then it runs again.
+        runner.result = exited(0, profilerOutput({batterySection(QStringLiteral("87%"))}));
+        clock.time = start + 21599s;
+        QCOMPARE(health.systemBatteryHealthPercent(), std::nullopt);
+        QCOMPARE(runner.runs, 1);
+        clock.time = start + 21600s;
+        QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
+        QCOMPARE(runner.runs, 2);
+
+        // Value known: a failing attempt keeps it and still waits the full interval.
+        runner.result = std::nullopt; // could not be started
+        clock.time = start + 2 * 21600s;
+        QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
+        QCOMPARE(runner.runs, 3);
+        runner.result = exited(0, "not json");
+        clock.time = start + 2 * 21600s + 1s;
+        QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
+        QCOMPARE(runner.runs, 3);
+
+        // A clock set back keeps the cache.
+        clock.time = start;
+        QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
+        QCOMPARE(runner.runs, 3);
+
+        // An unusable document keeps the value too.
+        clock.time = start + 3 * 21600s;
+        QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
+        QCOMPARE(runner.runs, 4);
+        QCOMPARE(health.cachedSystemBatteryHealthPercent(), std::optional<std::int64_t>(87));
+    }
+
+    void capacityHealthPercent_data()
+    {
+        QTest::addColumn<QVariant>("capacity");
+        QTest::addColumn<QVariant>("design");
+        QTest::addColumn<QVariant>("percent");
+        const QVariant none;
+        QTest::newRow("86.6 rounds up") << QVariant(4420) << QVariant(5103) << QVariant(87);
+        QTest::newRow("above design clamps") << QVariant(5200) << QVariant(5103) << QVariant(100);
+        QTest::newRow("half rounds away from zero") << QVariant(1) << QVariant(8) << QVariant(13);
+        QTest::newRow("below half rounds down") << QVariant(4999) << QVariant(10000) << QVariant(50);
+        QTest::newRow("negative capacity clamps") << QVariant(-10) << QVariant(5103) << QVariant(0);
+        QTest::newRow("design absent") << QVariant(4420) << none << none;
+        QTest::newRow("capacity absent") << none << QVariant(5103) << none;
+        QTest::newRow("design zero") << QVariant(4420) << QVariant(0) << none;
+    }
+
+    void capacityHealthPercent()
+    {
+        QFETCH(QVariant, capacity);
+        QFETCH(QVariant, design);
+        QFETCH(QVariant, percent);
+        const auto optional = [](const QVariant &v) {
+            return v.isValid() ? std::optional<std::int64_t>(v.toLongLong()) : std::nullopt;
+        };
+        QCOMPARE(BatteryHealthSources::capacityHealthPercent(optional(capacity), optional(design)), optional(percent));
+    }
+
+    void healthCondition_data()
+    {
+        QTest::addColumn<std::optional<PropertyList>>("sources");
+        QTest::addColumn<QString>("condition");
+
+        QTest::newRow("Good with a capital G") << std::optional(PropertyList{source("InternalBattery", "Good")}) << QStringLiteral("good");
+        QTest::newRow("POOR") << std::optional(PropertyList{source("InternalBattery", "POOR")}) << QStringLiteral("poor");
+        QTest::newRow("Check Battery") << std::optional(PropertyList{source("InternalBattery", "Check Battery")}) << QString();
+        QTest::newRow("first internal battery decides")
+            << std::optional(PropertyList{source("InternalBattery", std::nullopt), source("InternalBattery", "Fair")}) << QString();
+        QTest::newRow("other sources skipped")
+            << std::optional(PropertyList{source("UPS", "Poor"), source("InternalBattery", "Fair")}) << QStringLiteral("fair");
+        QTest::newRow("type is case-sensitive") << std::optional(PropertyList{source("internalbattery", "Good")}) << QString();
+        QTest::newRow("non-dictionary entries skipped")
+            << std::optional(PropertyList{QStringLiteral("junk"), UnsupportedProperty{}, source("InternalBattery", "Good")})
+            << QStringLiteral("good");
+        QTest::newRow("health not a string")
+            << std::optional(PropertyList{PropertyDictionary{{QStringLiteral("Type"), QStringLiteral("InternalBattery")},
+                                                             {QStringLiteral("BatteryHealth"), 1}}})
+            << QString();
+        QTest::newRow("no internal battery") << std::optional(PropertyList{source("UPS", "Good")}) << QString();
+        QTest::newRow("no list") << std::optional<PropertyList>() << QString();
+    }
+
+    void healthCondition()
+    {
+        QFETCH(std::optional<PropertyList>, sources);
+        QFETCH(QString, condition);
+        FakeClock clock;
+        FakeRunner runner;
+        FakePowerSources powerSources;
+        powerSources.descriptions = sources;
+        BatteryHealthSources health(runner, powerSources, clock);
+        const auto read = health.readBatteryHealthCondition();
+        QCOMPARE(read ? rawValue(*read) : QString(), condition);
+    }
+};
+
+QTEST_GUILESS_MAIN(BatteryHealthSourcesTest)
+#include "tst_battery_health_sources.moc"
