@@ -4,6 +4,7 @@
 // Each backend in platform/ implements them; tests use small fakes.
 
 #include "model/power_snapshot.h"
+#include "monitor/key_value_store.h"
 #include "sources/property_value.h"
 #include "sources/smc_key_data.h"
 
@@ -12,6 +13,7 @@
 #include <QStringList>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -82,6 +84,30 @@ public:
     virtual ~PowerSourceList() = default;
     // Absent when the power-source snapshot or its list could not be had.
     virtual std::optional<PropertyList> powerSourceDescriptions() = 0;
+};
+
+// Facts about the running system that the reader branches on.
+class SystemInfo {
+public:
+    virtual ~SystemInfo() = default;
+    virtual int operatingSystemMajorVersion() const = 0;
+    // Whether the power-source service describes a connected adapter (a non-empty description).
+    virtual bool hasExternalPowerAdapterDetails() = 0;
+};
+
+// One machine to read: a backend's implementations of every interface above. The SMC client
+// and the energy source are made on first use, as the reader needs them.
+class MachinePlatform {
+public:
+    virtual ~MachinePlatform() = default;
+    virtual std::unique_ptr<SMCUserClient> createSMCUserClient() = 0;
+    virtual std::unique_ptr<EnergyReportSource> createEnergyReportSource() = 0;
+    virtual RegistryPropertySource &registry() = 0;
+    virtual PowerSourceList &powerSources() = 0;
+    virtual CommandRunner &commandRunner() = 0;
+    virtual KeyValueStore &preferences() = 0;
+    virtual SystemInfo &systemInfo() = 0;
+    virtual const Clock &clock() const = 0;
 };
 
 } // namespace ferrow

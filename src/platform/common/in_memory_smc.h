@@ -57,3 +57,24 @@ std::vector<std::uint8_t> smcBytesOfUnsigned(std::uint64_t value, int size);
 std::vector<std::uint8_t> smcBytesOfFixedPoint(double value, int fractionBits);
 
 } // namespace ferrow
+
+namespace ferrow {
+
+// A user client over an InMemorySMC owned elsewhere, such as a machine model that keeps
+// updating its keys while the reader holds the client.
+class InMemorySMCClient final : public SMCUserClient {
+public:
+    explicit InMemorySMCClient(InMemorySMC &smc) : m_smc(smc) {}
+    std::uint32_t open() override { return m_smc.open(); }
+    IOKitStatus callStructMethod(std::uint32_t connection, std::uint32_t selector, const SMCKeyData &input,
+                                 SMCKeyData &output) override
+    {
+        return m_smc.callStructMethod(connection, selector, input, output);
+    }
+    void close(std::uint32_t connection) override { m_smc.close(connection); }
+
+private:
+    InMemorySMC &m_smc;
+};
+
+} // namespace ferrow

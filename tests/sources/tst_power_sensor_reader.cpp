@@ -1,0 +1,376 @@
+#include "model/snapshot_json.h"
+#include "sources/power_sensor_reader.h"
+#include "support/fake_machine.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTest>
+
+#include <functional>
+#include <limits>
+
+using namespace ferrow;
+using namespace ferrow::testing;
+
+using Setup = std::function<void(FakeMachine &)>;
+Q_DECLARE_METATYPE(Setup)
+
+namespace {
+
+PropertyDictionary &nested(PropertyDictionary &dictionary, const char *name)
+{
+    return std::get<PropertyDictionary>(dictionary[QString::fromLatin1(name)].value);
+}
+
+PropertyValue &top(FakeMachine &m, const char *name)
+{
+    return (*m.battery)[QString::fromLatin1(name)];
+}
+
+void removeTop(FakeMachine &m, const char *name)
+{
+    m.battery->erase(QString::fromLatin1(name));
+}
+
+void setFloatKey(FakeMachine &m, const char *key, float value)
+{
+    m.smc.setKey(key, "flt ", smcBytesOfFloat(value));
+}
+
+QByteArray profilerSaying(const char *percent)
+{
+    return QByteArray("{\"SPPowerDataType\":[{\"sppower_battery_health_info\":{\"sppower_battery_health_maximum_capacity\":\"")
+        + percent + "\"}}]}";
+}
+
+// A notebook on a 20 V adapter, charging at 62 %, on a system without the battery history.
+void baseNotebook(FakeMachine &m)
+{
+    setFloatKey(m, "VD0R", 20.0f);
+    setFloatKey(m, "ID0R", 1.5f);
+    setFloatKey(m, "PSTR", 12.0f);
+    setFloatKey(m, "PDTR", 30.0f);
+    setFloatKey(m, "VP0R", 12.4f);
+    const auto text = [](const char *s) { return PropertyValue(QString::fromLatin1(s)); };
+    m.battery = PropertyDictionary{
+        {QStringLiteral("BatteryInstalled"), true},
+        {QStringLiteral("ExternalConnected"), true},
+        {QStringLiteral("IsCharging"), true},
+        {QStringLiteral("CurrentCapacity"), 62},
+        {QStringLiteral("MaxCapacity"), 100},
+        {QStringLiteral("DesignCapacity"), 6075},
+        {QStringLiteral("AppleRawMaxCapacity"), 5600},
+        {QStringLiteral("NominalChargeCapacity"), 5700},
+        {QStringLiteral("Temperature"), 3055},
+        {QStringLiteral("Serial"), text("F8Y1234567AB")},
+        {QStringLiteral("Voltage"), 12400},
+        {QStringLiteral("Amperage"), 1450},
+        {QStringLiteral("AvgTimeToFull"), 95},
+        {QStringLiteral("CycleCount"), 212},
+        {QStringLiteral("DesignCycleCount9C"), 1000},
+        {QStringLiteral("DesignCycleCount70"), 700},
+        {QStringLiteral("DeviceName"), text("bq40z651")},
+        {QStringLiteral("BatteryCellDisconnectCount"), 0},
+        {QStringLiteral("PowerTelemetryData"), PropertyDictionary{{QStringLiteral("SystemLoad"), 11800}}},
+        {QStringLiteral("AdapterDetails"), PropertyDictionary{{QStringLiteral("Description"), text("pd charger")}, {QStringLiteral("Watts"), 70}}},
+        {QStringLiteral("BatteryData"),
+         PropertyDictionary{
+             {QStringLiteral("DesignCapacity"), 6000},
+             {QStringLiteral("FullChargeCapacity"), 5500},
+             {QStringLiteral("RemainingCapacity"), 3472},
+             {QStringLiteral("CellVoltage"), PropertyList{4133, 4135, 4132}},
+             {QStringLiteral("Temperature"), 3000},
+             {QStringLiteral("LifetimeData"),
+              PropertyDictionary{{QStringLiteral("TotalOperatingTime"), 12345},
+                                 {QStringLiteral("MaximumTemperature"), 45},
+                                 {QStringLiteral("MinimumTemperature"), 12},
+                                 {QStringLiteral("AverageTemperature"), 287}}},
+         }},
+    };
+    m.powerSourceList = PropertyList{PropertyDictionary{{QStringLiteral("Type"), text("InternalBattery")},
+                                                        {QStringLiteral("BatteryHealth"), text("Good")}}};
+    m.profiler = CommandResult{0, profilerSaying("87%")};
+}
+
+QJsonObject expect(std::initializer_list<std::pair<const char *, QJsonValue>> fields)
+{
+    QJsonObject object;
+    for (const auto &[name, value] : fields)
+        object.insert(QLatin1StringView(name), value);
+    return object;
+}
+
+bool sameValue(const QJsonValue &actual, const QJsonValue &expected)
+{
+    if (expected.isDouble() && actual.isDouble())
+        return qAbs(actual.toDouble() - expected.toDouble()) < 1e-6;
+    if (expected.isArray() && actual.isArray()) {
+        const QJsonArray a = actual.toArray(), e = expected.toArray();
+        if (a.size() != e.size())
+            return false;
+        for (qsizetype i = 0; i < a.size(); ++i) {
+            if (!sameValue(a[i], e[i]))
+                return false;
+        }
+        return true;
+    }
+    return actual == expected;
+}
+
+const QJsonValue null(QJsonValue::Null);
+
+} // namespace
+
+class PowerSensorReaderTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void read_data()
+    {
+        QTest::addColumn<Setup>("setup");
+        QTest::addColumn<QJsonObject>("expected");
+        const auto row = [](const char *name, Setup setup, QJsonObject expected) {
+            QTest::newRow(name) << setup << expected;
+        };
+
+        row("notebook charging", [](FakeMachine &) {},
+            expect({{"dcVoltageV", 20}, {"dcCurrentA", 1.5}, {"dcPowerW", 30}, {"systemPowerW", 12}, {"batteryFlowW", 18},
+                    {"batteryChargePowerW", 18}, {"hasBattery", true}, {"batteryPercent", 62}, {"batteryHealthPercent", 87},
+                    {"batteryHealthCondition", QStringLiteral("good")}, {"batteryTemperatureC", 30.55}, {"batteryVoltageV", 12.4},
+                    {"batteryCurrentA", 1.45}, {"batteryRailVoltageV", 12.4}, {"cycleCount", 212}, {"designCycleCount", 1000},
+                    {"estimatedMinutesToFull", 95}, {"designCapacityMAH", 6075}, {"fullChargeCapacityMAH", 5600},
+                    {"nominalFullChargeCapacityMAH", 5700}, {"remainingCapacityMAH", 3472},
+                    {"cellVoltagesV", QJsonArray{4.133, 4.135, 4.132}}, {"cellVoltageSource", QStringLiteral("registry")},
+                    {"deviceName", QStringLiteral("bq40z651")}, {"batterySerial", QStringLiteral("F8Y1234567AB")},
+                    {"totalOperatingMinutes", 12345}, {"lifetimeMaxTemperatureC", 45}, {"lifetimeMinTemperatureC", 12},
+                    {"lifetimeAverageTemperatureC", 28.7}, {"lifetimeMaxPackVoltageV", 12.4}, {"lifetimeMinPackVoltageV", 12.4},
+                    {"lifetimeMaxChargeCurrentA", 1.45}, {"lifetimeMaxDischargeCurrentA", null},
+                    {"batterySafetyProtectionCount", 0}, {"isExternalConnected", true}, {"isCharging", true},
+                    {"isDataAvailable", true}, {"adapterDescription", QStringLiteral("pd charger")}}));
+
+        // External input and system power.
+        row("input below its thresholds", [](FakeMachine &m) { setFloatKey(m, "VD0R", 0.3f); setFloatKey(m, "ID0R", 2.0f); },
+            expect({{"dcVoltageV", 0}, {"dcCurrentA", 2}, {"dcPowerW", 0}, {"isDataAvailable", true}}));
+        row("all-zero voltage counts as 0", [](FakeMachine &m) { m.smc.setKey("VD0R", "flt ", {0, 0, 0, 0}); },
+            expect({{"dcVoltageV", 0}, {"dcPowerW", 0}, {"isDataAvailable", true}}));
+        row("no voltage key: PDTR", [](FakeMachine &m) { m.smc.removeKey("VD0R"); setFloatKey(m, "PDTR", 45.0f); },
+            expect({{"dcVoltageV", 0}, {"dcCurrentA", 1.5}, {"dcPowerW", 45}}));
+        row("no input keys at all", [](FakeMachine &m) { for (const char *k : {"VD0R", "ID0R", "PDTR"}) m.smc.removeKey(k); },
+            expect({{"dcPowerW", 0}, {"isDataAvailable", false}, {"batteryFlowW", -12}}));
+        row("input voltage out of range", [](FakeMachine &m) { setFloatKey(m, "VD0R", 301.0f); },
+            expect({{"dcVoltageV", 0}, {"dcPowerW", 30}})); // falls back to PDTR
+        row("SystemLoad fallback", [](FakeMachine &m) {
+                m.smc.removeKey("PSTR");
+                nested(*m.battery, "PowerTelemetryData")[QStringLiteral("SystemLoad")] = -12500;
+            },
+            expect({{"systemPowerW", 12.5}, {"isDataAvailable", true}}));
+        row("zero PSTR beats SystemLoad", [](FakeMachine &m) { m.smc.setKey("PSTR", "flt ", {0, 0, 0, 0}); },
+            expect({{"systemPowerW", 0}, {"batteryFlowW", 30}}));
+        row("no system power", [](FakeMachine &m) { m.smc.removeKey("PSTR"); removeTop(m, "PowerTelemetryData"); },
+            expect({{"systemPowerW", 0}, {"isDataAvailable", false}, {"batteryFlowW", 30}}));
+        row("no rail voltage", [](FakeMachine &m) { m.smc.removeKey("VP0R"); }, expect({{"batteryRailVoltageV", null}}));
+        row("zero rail voltage is absent", [](FakeMachine &m) { m.smc.setKey("VP0R", "flt ", {0, 0, 0, 0}); },
+            expect({{"batteryRailVoltageV", null}}));
+
+        // Flow and charging.
+        row("adapter cannot carry the load", [](FakeMachine &m) { setFloatKey(m, "PSTR", 40.0f); top(m, "IsCharging") = false; },
+            expect({{"batteryFlowW", -10}, {"batteryChargePowerW", 0}, {"isCharging", false}, {"batteryCurrentA", -1.45}}));
+        row("unplugged while the battery says charging", [](FakeMachine &m) { top(m, "ExternalConnected") = false; },
+            expect({{"batteryChargePowerW", 0}, {"isCharging", false}, {"batteryCurrentA", -1.45}}));
+        row("charge power 0.6 W overrides IsCharging", [](FakeMachine &m) { top(m, "IsCharging") = false; setFloatKey(m, "PSTR", 29.4f); },
+            expect({{"isCharging", true}}));
+        row("charge power 0.5 W does not", [](FakeMachine &m) { top(m, "IsCharging") = false; setFloatKey(m, "PSTR", 29.5f); },
+            expect({{"isCharging", false}, {"batteryChargePowerW", 0.5}}));
+        row("ExternalConnected missing, adapter details", [](FakeMachine &m) { removeTop(m, "ExternalConnected"); m.adapterDetails = true; },
+            expect({{"isExternalConnected", true}, {"batteryChargePowerW", 18}}));
+        row("ExternalConnected missing, no adapter", [](FakeMachine &m) { removeTop(m, "ExternalConnected"); },
+            expect({{"isExternalConnected", false}, {"batteryChargePowerW", 0}, {"isCharging", false}}));
+
+        // Charge and capacities.
+        row("MaxCapacity 0", [](FakeMachine &m) { top(m, "MaxCapacity") = 0; top(m, "CurrentCapacity") = 50; },
+            expect({{"batteryPercent", 100}}));
+        row("MaxCapacity missing", [](FakeMachine &m) { removeTop(m, "MaxCapacity"); top(m, "CurrentCapacity") = 87; },
+            expect({{"batteryPercent", 87}}));
+        row("capacities in mAh", [](FakeMachine &m) { top(m, "MaxCapacity") = 5600; top(m, "CurrentCapacity") = 2799; },
+            expect({{"batteryPercent", 49}}));
+        row("CurrentCapacity beyond 64-bit arithmetic",
+            [](FakeMachine &m) { top(m, "CurrentCapacity") = std::numeric_limits<std::int64_t>::max(); }, expect({{"batteryPercent", 0}}));
+        row("design capacity from BatteryData", [](FakeMachine &m) { top(m, "DesignCapacity") = 0; },
+            expect({{"designCapacityMAH", 6000}}));
+        row("full capacity fallback", [](FakeMachine &m) { top(m, "AppleRawMaxCapacity") = 100001; },
+            expect({{"fullChargeCapacityMAH", 5500}}));
+        row("remaining capacity out of range", [](FakeMachine &m) { nested(*m.battery, "BatteryData")[QStringLiteral("RemainingCapacity")] = 0; },
+            expect({{"remainingCapacityMAH", null}}));
+
+        // Health.
+        row("profiler fails: nominal capacity ratio", [](FakeMachine &m) { m.profiler = CommandResult{1, {}}; },
+            expect({{"batteryHealthPercent", 94}}));
+        row("profiler fails, no nominal: full capacity ratio",
+            [](FakeMachine &m) { m.profiler = std::nullopt; removeTop(m, "NominalChargeCapacity"); }, expect({{"batteryHealthPercent", 92}}));
+        row("health condition absent", [](FakeMachine &m) { m.powerSourceList = std::nullopt; }, expect({{"batteryHealthCondition", null}}));
+
+        // Temperature.
+        row("top temperature out of range: no fallback", [](FakeMachine &m) { top(m, "Temperature") = 12000; },
+            expect({{"batteryTemperatureC", null}}));
+        row("nested temperature when top is missing", [](FakeMachine &m) { removeTop(m, "Temperature"); },
+            expect({{"batteryTemperatureC", 30}}));
+
+        // Voltage and current.
+        row("voltage 30001 mV", [](FakeMachine &m) { top(m, "Voltage") = 30001; top(m, "AvgTimeToFull") = 65535; },
+            expect({{"batteryVoltageV", null}, {"lifetimeMaxPackVoltageV", null}, {"estimatedMinutesToFull", null}}));
+        row("discharge current", [](FakeMachine &m) { top(m, "ExternalConnected") = false; top(m, "Amperage") = -2500; },
+            expect({{"batteryCurrentA", -2.5}, {"lifetimeMaxDischargeCurrentA", 2.5}, {"lifetimeMaxChargeCurrentA", null}}));
+        row("sign follows charging, store keeps it",
+            [](FakeMachine &m) { top(m, "IsCharging") = false; setFloatKey(m, "PSTR", 40.0f); top(m, "Amperage") = 1500; },
+            expect({{"batteryCurrentA", -1.5}, {"lifetimeMaxChargeCurrentA", 1.5}}));
+        row("150 A", [](FakeMachine &m) { top(m, "Amperage") = 150000; },
+            expect({{"batteryCurrentA", null}, {"lifetimeMaxChargeCurrentA", null}}));
+        row("amperage as an unsigned bit pattern", [](FakeMachine &m) {
+                top(m, "ExternalConnected") = false;
+                top(m, "Amperage") = static_cast<std::uint64_t>(-2000);
+            },
+            expect({{"batteryCurrentA", -2.0}, {"lifetimeMaxDischargeCurrentA", 2.0}}));
+
+        // Time to full.
+        const auto estimating = [](FakeMachine &m, float currentA, std::int64_t fullMAH, std::int64_t remainingMAH) {
+            top(m, "AvgTimeToFull") = 65535;
+            top(m, "Voltage") = 12600;
+            top(m, "AppleRawMaxCapacity") = fullMAH;
+            nested(*m.battery, "BatteryData")[QStringLiteral("RemainingCapacity")] = remainingMAH;
+            setFloatKey(m, "ID0R", currentA);
+        };
+        row("estimate of 76 minutes", [=](FakeMachine &m) { estimating(m, 2.1f, 6000, 3000); }, expect({{"estimatedMinutesToFull", 76}}));
+        row("estimate of at least 1", [=](FakeMachine &m) { estimating(m, 2.1f, 6000, 5999); }, expect({{"estimatedMinutesToFull", 1}}));
+        row("estimate of at most 5999", [=](FakeMachine &m) {
+                estimating(m, 0.625f, 100000, 1);
+                top(m, "Voltage") = 30000;
+            },
+            expect({{"estimatedMinutesToFull", 5999}}));
+        row("no estimate when full", [=](FakeMachine &m) { estimating(m, 2.1f, 6000, 6000); }, expect({{"estimatedMinutesToFull", null}}));
+        row("no estimate below 0.3 W", [=](FakeMachine &m) { estimating(m, 2.1f, 6000, 3000); setFloatKey(m, "PSTR", 41.9f); },
+            expect({{"estimatedMinutesToFull", null}}));
+        row("reported time while discharging", [](FakeMachine &m) { top(m, "ExternalConnected") = false; top(m, "AvgTimeToFull") = 90; },
+            expect({{"estimatedMinutesToFull", 90}}));
+        row("reported time from BatteryData", [](FakeMachine &m) {
+                removeTop(m, "AvgTimeToFull");
+                nested(*m.battery, "BatteryData")[QStringLiteral("AvgTimeToFull")] = 42;
+            },
+            expect({{"estimatedMinutesToFull", 42}}));
+
+        // Counts, lifetime and names.
+        row("design cycles fallback", [](FakeMachine &m) { removeTop(m, "DesignCycleCount9C"); }, expect({{"designCycleCount", 700}}));
+        row("lifetime values out of range", [](FakeMachine &m) {
+                PropertyDictionary &lifetime = nested(nested(*m.battery, "BatteryData"), "LifetimeData");
+                lifetime[QStringLiteral("MaximumTemperature")] = 121;
+                lifetime[QStringLiteral("AverageTemperature")] = 305;
+                lifetime[QStringLiteral("TotalOperatingTime")] = 10'000'001;
+                top(m, "BatteryCellDisconnectCount") = -1;
+            },
+            expect({{"lifetimeMaxTemperatureC", null}, {"lifetimeAverageTemperatureC", 30.5}, {"totalOperatingMinutes", null},
+                    {"batterySafetyProtectionCount", null}}));
+
+        // Operating-system branches.
+        row("version 27: history and SMC cells allowed", [](FakeMachine &m) {
+                m.osMajorVersion = 27;
+                nested(*m.battery, "BatteryData")[QStringLiteral("CellVoltage")] = PropertyList{1500, 3800, 3800};
+                setFloatKey(m, "SBA1", 4.1f);
+                setFloatKey(m, "SBA2", 4.1f);
+                setFloatKey(m, "SBA3", 4.2f);
+                setFloatKey(m, "SBAV", 12.4f);
+            },
+            expect({{"lifetimeMaxTemperatureC", 30.55}, {"lifetimeAverageTemperatureC", 30.55}, {"cellVoltageSource", QStringLiteral("smc")},
+                    {"cellVoltagesV", QJsonArray{4.1, 4.1, 4.2}}}));
+        row("version 28: registry cells only", [](FakeMachine &m) {
+                m.osMajorVersion = 28;
+                nested(*m.battery, "BatteryData")[QStringLiteral("CellVoltage")] = PropertyList{1500, 3800, 3800};
+                setFloatKey(m, "SBA1", 4.1f);
+                setFloatKey(m, "SBAV", 4.1f);
+            },
+            expect({{"lifetimeMinTemperatureC", 30.55}, {"cellVoltageSource", null}, {"cellVoltagesV", QJsonArray{}}}));
+        row("version 27: SMC sensors win", [](FakeMachine &m) {
+                m.osMajorVersion = 27;
+                m.smc.setKey("TB1T", "sp78", smcBytesOfFixedPoint(33.0, 8));
+            },
+            expect({{"batteryTemperatureC", 33}, {"lifetimeMaxTemperatureC", 33}}));
+
+        // Machines without a battery.
+        row("desktop", [](FakeMachine &m) { m.battery = std::nullopt; },
+            expect({{"hasBattery", false}, {"isExternalConnected", true}, {"batteryFlowW", 0}, {"batteryChargePowerW", 0},
+                    {"batteryPercent", 0}, {"batteryHealthPercent", null}, {"batteryHealthCondition", null}, {"cellVoltagesV", QJsonArray{}},
+                    {"batteryTemperatureC", null}, {"isCharging", false}, {"lifetimeMaxPackVoltageV", null}, {"dcPowerW", 30},
+                    {"systemPowerW", 12}, {"isDataAvailable", true}, {"designCapacityMAH", null}}));
+        row("battery not installed", [](FakeMachine &m) { top(m, "BatteryInstalled") = false; },
+            expect({{"hasBattery", false}, {"batteryPercent", 0}, {"isExternalConnected", true}, {"isCharging", false},
+                    {"designCapacityMAH", 6075}, {"cycleCount", 212}, {"batteryVoltageV", 12.4}, {"batteryHealthPercent", null},
+                    {"lifetimeMaxPackVoltageV", null}, {"estimatedMinutesToFull", 95}}));
+    }
+
+    void read()
+    {
+        QFETCH(Setup, setup);
+        QFETCH(QJsonObject, expected);
+        auto *machine = new FakeMachine;
+        baseNotebook(*machine);
+        setup(*machine);
+        PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
+        const QJsonObject actual = snapshotToJson(reader.read());
+        for (auto field = expected.begin(); field != expected.end(); ++field) {
+            QVERIFY2(sameValue(actual.value(field.key()), field.value()),
+                     qPrintable(QStringLiteral("%1: got %2, want %3")
+                                    .arg(field.key(), QString::fromUtf8(QJsonDocument(QJsonArray{actual.value(field.key())}).toJson(QJsonDocument::Compact)),
+                                         QString::fromUtf8(QJsonDocument(QJsonArray{field.value()}).toJson(QJsonDocument::Compact)))));
+        }
+    }
+
+    void powerKeysAreProbedOnce()
+    {
+        auto *machine = new FakeMachine;
+        baseNotebook(*machine);
+        PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
+        QVERIFY(!reader.availableSMCKeys());
+        reader.read();
+        QCOMPARE(reader.availableSMCKeys(), (std::optional<std::set<std::string>>({"VD0R", "ID0R", "PSTR", "PDTR", "VP0R"})));
+        const int firstRead = machine->smc.callCount();
+        reader.read();
+        QCOMPARE(machine->smc.callCount() - firstRead, 2 * 5); // one readDouble per key, no probing
+    }
+
+    void machineWithoutPowerKeysNeverAsksAgain()
+    {
+        auto *machine = new FakeMachine;
+        baseNotebook(*machine);
+        for (const char *k : {"VD0R", "ID0R", "PSTR", "PDTR", "VP0R"})
+            machine->smc.removeKey(k);
+        PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
+        reader.read();
+        QCOMPARE(reader.availableSMCKeys(), std::optional<std::set<std::string>>(std::set<std::string>{}));
+        const int firstRead = machine->smc.callCount();
+        setFloatKey(*machine, "PSTR", 10.0f); // appears later: not noticed
+        const PowerSnapshot snapshot = reader.read();
+        QCOMPARE(machine->smc.callCount(), firstRead);
+        QCOMPARE(snapshot.systemPowerW, 11.8); // from SystemLoad
+    }
+
+    void profilerRunsOnTheFirstReadOnly()
+    {
+        auto *machine = new FakeMachine;
+        baseNotebook(*machine);
+        PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
+        for (int i = 0; i < 3; ++i) {
+            machine->time += std::chrono::seconds(1);
+            reader.read();
+        }
+        QCOMPARE(machine->profilerRuns, 1);
+    }
+
+    void readingIsStampedWithTheClock()
+    {
+        auto *machine = new FakeMachine;
+        machine->time += std::chrono::milliseconds(1234);
+        PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
+        QCOMPARE(reader.read().updatedAt, machine->time);
+    }
+};
+
+QTEST_GUILESS_MAIN(PowerSensorReaderTest)
+#include "tst_power_sensor_reader.moc"
