@@ -1,10 +1,10 @@
-#include "app/placeholder_reader.h"
+#include "app/machine_source.h"
 #include "app/text_table.h"
 #include "monitor/power_monitor.h"
 #include "monitor/sleep_wake_notifier.h"
+#include "sources/power_sensor_reader.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QTextStream>
 
 #include <memory>
@@ -18,17 +18,22 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(QStringLiteral("Ferrow"));
     installTextTable(application);
 
+    QString error;
+    std::optional<OpenedMachine> machine = openMachine(MachineSource{}, &error);
+    if (!machine) {
+        QTextStream(stderr) << "ferrow: " << error << '\n';
+        return 1;
+    }
     SleepWakeNotifier sleepWake;
-    PowerMonitor monitor(std::make_unique<PlaceholderReader>(), &sleepWake);
+    PowerMonitor monitor(std::make_unique<PowerSensorReader>(std::move(machine->platform)), &sleepWake);
 
     QTextStream out(stdout);
-    out << "Ferrow (placeholder readings until the machine readers land). Ctrl+C to quit.\n";
+    out << "Ferrow is reading the " << machine->description << ". Ctrl+C to quit.\n";
     QObject::connect(&monitor, &PowerMonitor::snapshotChanged, &monitor, [&] {
         const PowerSnapshot &snapshot = monitor.snapshot();
         const auto powerW = snapshot.displayPowerW();
-        const QString figure = powerW ? QString::asprintf("%.1f W", *powerW) : QStringLiteral("\u2014 W");
-        out << QDateTime::currentDateTime().toString(QStringLiteral("HH:mm:ss")) << "  " << figure.rightJustified(8)
-            << "  " << snapshot.statusText() << "  " << snapshot.powerSourceText() << Qt::endl;
+        out << (powerW ? QString::asprintf("%.1f W", *powerW) : QStringLiteral("\u2014 W")).rightJustified(9) << "  "
+            << snapshot.statusText() << Qt::endl;
     });
     monitor.start();
     return QCoreApplication::exec();

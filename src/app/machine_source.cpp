@@ -1,0 +1,42 @@
+#include "app/machine_source.h"
+
+#include "platform/simulated/simulated_machine.h"
+
+namespace ferrow {
+
+std::optional<MachineSource> MachineSource::parse(const QString &text)
+{
+    if (text == u"auto")
+        return MachineSource{Kind::automatic, {}};
+    if (text == u"simulated")
+        return MachineSource{Kind::simulatedNotebook, {}};
+    if (text == u"simulated-desktop")
+        return MachineSource{Kind::simulatedDesktop, {}};
+    if (text.startsWith(u"recorded:") && text.size() > 9)
+        return MachineSource{Kind::recorded, text.mid(9)};
+    return std::nullopt;
+}
+
+std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *error)
+{
+    using Kind = SimulatedPowerModel::Kind;
+    const auto simulated = [](Kind kind, const char *description) {
+        SimulatedMachine::Options options;
+        options.kind = kind;
+        return OpenedMachine{std::make_unique<SimulatedMachine>(options), QString::fromLatin1(description), true, true};
+    };
+    switch (source.kind) {
+    case MachineSource::Kind::automatic:
+    case MachineSource::Kind::simulatedNotebook:
+        return simulated(Kind::notebook, "simulated notebook");
+    case MachineSource::Kind::simulatedDesktop:
+        return simulated(Kind::desktop, "simulated desktop");
+    case MachineSource::Kind::recorded:
+        break;
+    }
+    if (error)
+        *error = QStringLiteral("recorded machines are not supported yet");
+    return std::nullopt;
+}
+
+} // namespace ferrow
