@@ -16,15 +16,9 @@ constexpr double kChargingOverrideW = 0.5;
 constexpr double kEstimateMinimumChargeW = 0.3;
 constexpr int kFirstVersionWithSMCSensors = 27;
 
-// Property names, with the dictionaries they live in.
-QString key(const char *name)
-{
-    return QString::fromLatin1(name);
-}
-
 const PropertyValue *at(const PropertyDictionary *dictionary, const char *name)
 {
-    return propertyLookup(dictionary, key(name));
+    return propertyLookup(dictionary, QLatin1StringView(name));
 }
 
 std::optional<std::int64_t> integerAt(const PropertyDictionary *dictionary, const char *name)

@@ -93,12 +93,27 @@ std::optional<std::vector<double>> propertyNumberList(const PropertyValue *value
     return numbers;
 }
 
-const PropertyValue *propertyLookup(const PropertyDictionary *dictionary, const QString &key)
+namespace {
+
+template <typename Key>
+const PropertyValue *find(const PropertyDictionary *dictionary, const Key &key)
 {
     if (!dictionary)
         return nullptr;
     const auto entry = dictionary->find(key);
     return entry == dictionary->end() ? nullptr : &entry->second;
+}
+
+} // namespace
+
+const PropertyValue *propertyLookup(const PropertyDictionary *dictionary, const QString &key)
+{
+    return find(dictionary, key);
+}
+
+const PropertyValue *propertyLookup(const PropertyDictionary *dictionary, QLatin1StringView key)
+{
+    return find(dictionary, key);
 }
 
 } // namespace ferrow

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QLatin1StringView>
 #include <QString>
 
 #include <cstdint>
@@ -15,7 +16,7 @@ struct PropertyValue;
 
 // A dictionary whose keys are all strings. Dictionaries with any other key cannot be
 // represented here and arrive as UnsupportedProperty.
-using PropertyDictionary = std::map<QString, PropertyValue>;
+using PropertyDictionary = std::map<QString, PropertyValue, std::less<>>; // looked up by QLatin1StringView too
 using PropertyList = std::vector<PropertyValue>;
 
 // A value the platform handed over that has no typed reading here (a date, or a dictionary
@@ -53,5 +54,6 @@ std::optional<std::vector<double>> propertyNumberList(const PropertyValue *value
 
 // The entry under key, or nullptr when the dictionary or the entry is missing.
 const PropertyValue *propertyLookup(const PropertyDictionary *dictionary, const QString &key);
+const PropertyValue *propertyLookup(const PropertyDictionary *dictionary, QLatin1StringView key);
 
 } // namespace ferrow
