@@ -1,5 +1,6 @@
 #include "app/machine_source.h"
 
+#include "platform/recorded/recorded_machine.h"
 #include "platform/simulated/simulated_machine.h"
 
 namespace ferrow {
@@ -34,9 +35,12 @@ std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *e
     case MachineSource::Kind::recorded:
         break;
     }
-    if (error)
-        *error = QStringLiteral("recorded machines are not supported yet");
-    return std::nullopt;
+    std::optional<Recording> recording = loadRecording(source.recordingPath, error);
+    if (!recording)
+        return std::nullopt;
+    const QString description = recording->description.isEmpty() ? source.recordingPath : recording->description;
+    return OpenedMachine{std::make_unique<RecordedMachine>(std::move(*recording)), QStringLiteral("recording of ") + description, false,
+                         false};
 }
 
 } // namespace ferrow

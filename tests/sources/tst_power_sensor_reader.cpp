@@ -1,6 +1,7 @@
 #include "model/snapshot_json.h"
 #include "sources/power_sensor_reader.h"
 #include "support/fake_machine.h"
+#include "support/json_compare.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -98,23 +99,6 @@ QJsonObject expect(std::initializer_list<std::pair<const char *, QJsonValue>> fi
     for (const auto &[name, value] : fields)
         object.insert(QLatin1StringView(name), value);
     return object;
-}
-
-bool sameValue(const QJsonValue &actual, const QJsonValue &expected)
-{
-    if (expected.isDouble() && actual.isDouble())
-        return qAbs(actual.toDouble() - expected.toDouble()) < 1e-6;
-    if (expected.isArray() && actual.isArray()) {
-        const QJsonArray a = actual.toArray(), e = expected.toArray();
-        if (a.size() != e.size())
-            return false;
-        for (qsizetype i = 0; i < a.size(); ++i) {
-            if (!sameValue(a[i], e[i]))
-                return false;
-        }
-        return true;
-    }
-    return actual == expected;
 }
 
 const QJsonValue null(QJsonValue::Null);
@@ -313,13 +297,8 @@ private slots:
         baseNotebook(*machine);
         setup(*machine);
         PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
-        const QJsonObject actual = snapshotToJson(reader.read());
-        for (auto field = expected.begin(); field != expected.end(); ++field) {
-            QVERIFY2(sameValue(actual.value(field.key()), field.value()),
-                     qPrintable(QStringLiteral("%1: got %2, want %3")
-                                    .arg(field.key(), QString::fromUtf8(QJsonDocument(QJsonArray{actual.value(field.key())}).toJson(QJsonDocument::Compact)),
-                                         QString::fromUtf8(QJsonDocument(QJsonArray{field.value()}).toJson(QJsonDocument::Compact)))));
-        }
+        const QString mismatches = jsonMismatches(snapshotToJson(reader.read()), expected);
+        QVERIFY2(mismatches.isEmpty(), qPrintable(mismatches));
     }
 
     void powerKeysAreProbedOnce()

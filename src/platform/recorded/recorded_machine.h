@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/common/in_memory_key_value_store.h"
+#include "platform/common/in_memory_smc.h"
+#include "sources/platform_interfaces.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace ferrow {
+
+// What a recording of a real Mac holds; see docs/recording-format.md.
+struct Recording {
+    struct EnergyFrame {
+        double uptimeS = 0;
+        std::vector<EnergyChannelSample> channels;
+    };
+
+    QString description;
+    int osMajorVersion = 26;
+    std::optional<PropertyDictionary> battery;
+    std::vector<std::pair<std::string, InMemorySMC::Entry>> smcKeys;
+    bool adapterDetails = false;
+    std::vector<EnergyFrame> energyFrames;
+    std::optional<PropertyList> powerSources;
+    std::optional<CommandResult> systemProfiler;
+};
+
+// Reads a recording folder: machine.json, and battery.plist unless the machine has no battery.
+// On failure the message names the file, the place in it and the problem.
+std::optional<Recording> loadRecording(const QString &folder, QString *error);
+
+// Replays a recording: the SMC, the battery service, power sources and profiler answer as recorded;
+// each chip sample steps to the next energy frame, whose uptime the clock then reports.
+class RecordedMachine final : public MachinePlatform, RegistryPropertySource, PowerSourceList, CommandRunner, SystemInfo, Clock {
+public:
+    explicit RecordedMachine(Recording recording);
+
+    std::unique_ptr<SMCUserClient> createSMCUserClient() override;
+    std::unique_ptr<EnergyReportSource> createEnergyReportSource() override;
+    RegistryPropertySource &registry() override { return *this; }
+    PowerSourceList &powerSources() override { return *this; }
+    CommandRunner &commandRunner() override { return *this; }
+    KeyValueStore &preferences() override { return m_preferences; }
+    SystemInfo &systemInfo() override { return *this; }
+    const Clock &clock() const override { return *this; }
+
+    std::optional<PropertyDictionary> registryProperties(const QString &className) override;
+    std::optional<PropertyList> powerSourceDescriptions() override { return m_recording.powerSources; }
+    std::optional<CommandResult> run(const QString &program, const QStringList &arguments) override;
+    int operatingSystemMajorVersion() const override { return m_recording.osMajorVersion; }
+    bool hasExternalPowerAdapterDetails() override { return m_recording.adapterDetails; }
+    WallTime now() const override { return std::chrono::system_clock::now(); }
+    double uptimeSeconds() const override;
+
+    // The next energy frame (the last one repeats once the recording runs out).
+    std::optional<std::vector<EnergyChannelSample>> nextEnergyFrame();
+
+private:
+    Recording m_recording;
+    InMemorySMC m_smc;
+    InMemoryKeyValueStore m_preferences;
+    std::optional<std::size_t> m_frame;
+};
+
+} // namespace ferrow

@@ -1,0 +1,227 @@
+#include "model/snapshot_json.h"
+#include "platform/recorded/property_list_parser.h"
+#include "platform/recorded/recorded_machine.h"
+#include "sources/power_sensor_reader.h"
+#include "support/json_compare.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace ferrow;
+using namespace ferrow::testing;
+
+Q_DECLARE_METATYPE(ferrow::PropertyValue)
+
+namespace {
+
+const QString kFixtures = QStringLiteral(QT_TESTCASE_SOURCEDIR "/fixtures/");
+
+QByteArray plist(const char *body)
+{
+    return QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n") + body + "\n</plist>\n";
+}
+
+} // namespace
+
+class RecordedMachineTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    // Values worked out by hand from each recording's files.
+    void fixtures_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QJsonObject>("expected");
+        const QJsonValue null(QJsonValue::Null);
+
+        QTest::newRow("notebook charging, 26") << QStringLiteral("notebook-charging-26") << QJsonObject{
+            {QStringLiteral("dcVoltageV"), 20.08}, {QStringLiteral("dcCurrentA"), 2.31}, {QStringLiteral("dcPowerW"), 46.3848},
+            {QStringLiteral("systemPowerW"), 14.62}, {QStringLiteral("batteryFlowW"), 31.7648}, {QStringLiteral("batteryPercent"), 48},
+            {QStringLiteral("batteryHealthPercent"), 91}, {QStringLiteral("batteryHealthCondition"), QStringLiteral("good")},
+            {QStringLiteral("batteryTemperatureC"), 31.15}, {QStringLiteral("batteryCurrentA"), 2.486},
+            {QStringLiteral("cellVoltagesV"), QJsonArray{4.007, 4.009, 4.005}}, {QStringLiteral("cellVoltageSource"), QStringLiteral("registry")},
+            {QStringLiteral("estimatedMinutesToFull"), 77}, {QStringLiteral("lifetimeAverageTemperatureC"), 29.1},
+            {QStringLiteral("chipPower"), QJsonObject{{QStringLiteral("cpu"), 4.25}, {QStringLiteral("gpu"), 0.62}, {QStringLiteral("ane"), 0}, {QStringLiteral("ram"), 0.41}}},
+            {QStringLiteral("isCharging"), true}, {QStringLiteral("isDataAvailable"), true}, {QStringLiteral("adapterDescription"), QStringLiteral("pd charger")}};
+        QTest::newRow("notebook on battery, 27") << QStringLiteral("notebook-battery-27") << QJsonObject{
+            {QStringLiteral("dcPowerW"), 0}, {QStringLiteral("batteryFlowW"), -22.4}, {QStringLiteral("batteryCurrentA"), -1.873},
+            {QStringLiteral("batteryHealthPercent"), 80}, {QStringLiteral("batteryHealthCondition"), QStringLiteral("fair")},
+            {QStringLiteral("batteryTemperatureC"), 33.0}, {QStringLiteral("lifetimeMaxTemperatureC"), 33.0},
+            {QStringLiteral("cellVoltageSource"), QStringLiteral("smc")}, {QStringLiteral("cellVoltagesV"), QJsonArray{3.712, 3.716, 3.709}},
+            {QStringLiteral("lifetimeMaxDischargeCurrentA"), 1.873}, {QStringLiteral("estimatedMinutesToFull"), null},
+            {QStringLiteral("isExternalConnected"), false}, {QStringLiteral("isDataAvailable"), true}, {QStringLiteral("batteryPercent"), 67}};
+        QTest::newRow("desktop, 26") << QStringLiteral("desktop-26") << QJsonObject{
+            {QStringLiteral("hasBattery"), false}, {QStringLiteral("dcPowerW"), 35}, {QStringLiteral("systemPowerW"), 31.5},
+            {QStringLiteral("batteryFlowW"), 0}, {QStringLiteral("isDataAvailable"), true}, {QStringLiteral("batteryHealthPercent"), null},
+            {QStringLiteral("chipPower"), QJsonObject{{QStringLiteral("cpu"), 9.3}, {QStringLiteral("gpu"), 2.4}}}};
+    }
+
+    void fixtures()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QJsonObject, expected);
+        QString error;
+        std::optional<Recording> recording = loadRecording(kFixtures + folder, &error);
+        QVERIFY2(recording, qPrintable(error));
+        PowerSensorReader reader{std::make_unique<RecordedMachine>(std::move(*recording))};
+        reader.read(); // the chip baseline
+        const QString mismatches = jsonMismatches(snapshotToJson(reader.read()), expected);
+        QVERIFY2(mismatches.isEmpty(), qPrintable(mismatches));
+    }
+
+    void propertyList_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<PropertyValue>("value");
+
+        QTest::newRow("integers") << plist("<array><integer>42</integer><integer>-7</integer><integer>18446744073709549743</integer></array>")
+                                  << PropertyValue(PropertyList{42, -7, std::uint64_t(18446744073709549743u)});
+        QTest::newRow("real and booleans") << plist("<array><real>12.5</real><true/><false/></array>") << PropertyValue(PropertyList{12.5, true, false});
+        QTest::newRow("string with entities") << plist("<string>pd &amp; charger</string>") << PropertyValue(QStringLiteral("pd & charger"));
+        QTest::newRow("data") << plist("<data>\n\tAAEC\n</data>") << PropertyValue(QByteArray("\x00\x01\x02", 3));
+        QTest::newRow("date has no typed reading") << plist("<date>2026-01-01T00:00:00Z</date>") << PropertyValue(UnsupportedProperty{});
+        QTest::newRow("empty containers") << plist("<dict><key>a</key><array/><key>b</key><dict/></dict>")
+                                          << PropertyValue(PropertyDictionary{{QStringLiteral("a"), PropertyList{}}, {QStringLiteral("b"), PropertyDictionary{}}});
+        QTest::newRow("nested") << plist("<dict><key>BatteryData</key><dict><key>CellVoltage</key><array><integer>4007</integer></array></dict></dict>")
+                                << PropertyValue(PropertyDictionary{{QStringLiteral("BatteryData"), PropertyDictionary{{QStringLiteral("CellVoltage"), PropertyList{4007}}}}});
+    }
+
+    void propertyList()
+    {
+        QFETCH(QByteArray, xml);
+        QFETCH(PropertyValue, value);
+        QString error;
+        const std::optional<PropertyValue> parsed = parsePropertyList(xml, &error);
+        QVERIFY2(parsed, qPrintable(error));
+        QVERIFY(*parsed == value);
+    }
+
+    void brokenPropertyList_data()
+    {
+        QTest::addColumn<QByteArray>("xml");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("empty") << QByteArray() << QStringLiteral("no <plist>");
+        QTest::newRow("not XML") << QByteArray("{\"json\": true}") << QStringLiteral("line 1");
+        QTest::newRow("other root") << QByteArray("<html/>") << QStringLiteral("expected <plist>");
+        QTest::newRow("unknown element") << plist("<dict><key>a</key><float>1</float></dict>") << QStringLiteral("line 3, column 25: unknown element <float>");
+        QTest::newRow("key without value") << plist("<dict><key>a</key></dict>") << QStringLiteral("key \"a\" has no value");
+        QTest::newRow("value without key") << plist("<dict><integer>1</integer></dict>") << QStringLiteral("expected <key>");
+        QTest::newRow("stray text") << plist("<dict>oops</dict>") << QStringLiteral("unexpected text");
+        QTest::newRow("not an integer") << plist("<integer>12.5</integer>") << QStringLiteral("\"12.5\" is not a 64-bit integer");
+        QTest::newRow("beyond 64 bits") << plist("<integer>18446744073709551616</integer>") << QStringLiteral("not a 64-bit integer");
+        QTest::newRow("not a real") << plist("<real>warm</real>") << QStringLiteral("not a real number");
+        QTest::newRow("bad base64") << plist("<data>@@@</data>") << QStringLiteral("not base64");
+        QTest::newRow("truncated") << QByteArray("<plist><dict><key>a</key><integer>1</integer>") << QStringLiteral("line 1");
+        QTest::newRow("two values") << plist("<true/><false/>") << QStringLiteral("unexpected <false> after the value");
+        QTest::newRow("element inside a string") << plist("<string>a<b/></string>") << QStringLiteral("line 3");
+        QTest::newRow("nested too deep") << plist(QByteArray("<array>").repeated(200).constData()) << QStringLiteral("nested more than 128 levels");
+    }
+
+    void brokenPropertyList()
+    {
+        QFETCH(QByteArray, xml);
+        QFETCH(QString, message);
+        QString error;
+        QVERIFY(!parsePropertyList(xml, &error));
+        QVERIFY2(error.contains(message), qPrintable(error));
+    }
+
+    void brokenRecording_data()
+    {
+        QTest::addColumn<QByteArray>("machine");
+        QTest::addColumn<QByteArray>("battery"); // empty: no battery.plist
+        QTest::addColumn<QString>("message");
+        const QByteArray good = "{\"format\":\"ferrow-recording/1\",\"osMajorVersion\":26}";
+        const auto with = [](const char *members) {
+            return QByteArray("{\"format\":\"ferrow-recording/1\",\"osMajorVersion\":26,") + members + "}";
+        };
+        QTest::newRow("machine.json not JSON") << QByteArray("{\n  \"format\": ferrow\n}") << QByteArray()
+                                               << QStringLiteral("machine.json: line 2, column 15: illegal value");
+        QTest::newRow("wrong format") << QByteArray("{\"format\":\"v2\"}") << QByteArray() << QStringLiteral("machine.json: format: expected");
+        QTest::newRow("version not a number") << QByteArray("{\"format\":\"ferrow-recording/1\",\"osMajorVersion\":\"26\"}") << QByteArray()
+                                              << QStringLiteral("machine.json: osMajorVersion:");
+        QTest::newRow("SMC key too long") << with("\"smc\":{\"VD0RX\":{\"type\":\"flt \",\"bytes\":\"00\"}}") << QByteArray()
+                                          << QStringLiteral("smc.VD0RX: a key is four ASCII characters");
+        QTest::newRow("SMC bytes not hex") << with("\"smc\":{\"VD0R\":{\"type\":\"flt \",\"bytes\":\"zz00\"}}") << QByteArray()
+                                           << QStringLiteral("smc.VD0R.bytes: expected hexadecimal");
+        QTest::newRow("SMC type wrong") << with("\"smc\":{\"VD0R\":{\"type\":\"float\",\"bytes\":\"00\"}}") << QByteArray()
+                                        << QStringLiteral("smc.VD0R.type:");
+        QTest::newRow("energy counter not a number") << with("\"energy\":[{\"uptime\":1,\"channels\":[[\"Energy Model\",\"CPU Energy\",\"mJ\",\"12\"]]}]")
+                                                     << QByteArray() << QStringLiteral("energy[0].channels[0]: expected [group, name, unit");
+        QTest::newRow("energy without uptime") << with("\"energy\":[{\"channels\":[]}]") << QByteArray() << QStringLiteral("energy[0].uptime:");
+        QTest::newRow("profiler of the wrong kind") << with("\"systemProfiler\":{\"exitStatus\":0,\"output\":12}") << QByteArray()
+                                                    << QStringLiteral("systemProfiler.output:");
+        QTest::newRow("battery.plist broken") << good << plist("<dict><key>Voltage</key><integer>x</integer></dict>")
+                                              << QStringLiteral("battery.plist: line 3, column");
+        QTest::newRow("battery.plist of a list of strings") << good << plist("<array><string>x</string></array>")
+                                                            << QStringLiteral("battery.plist: the first entry is not a dictionary");
+    }
+
+    void brokenRecording()
+    {
+        QFETCH(QByteArray, machine);
+        QFETCH(QByteArray, battery);
+        QFETCH(QString, message);
+        QTemporaryDir folder;
+        QFile machineFile(folder.filePath(QStringLiteral("machine.json")));
+        QVERIFY(machineFile.open(QIODevice::WriteOnly));
+        machineFile.write(machine);
+        machineFile.close();
+        if (!battery.isEmpty()) {
+            QFile batteryFile(folder.filePath(QStringLiteral("battery.plist")));
+            QVERIFY(batteryFile.open(QIODevice::WriteOnly));
+            batteryFile.write(battery);
+        }
+        QString error;
+        QVERIFY(!loadRecording(folder.path(), &error));
+        QVERIFY2(error.contains(message), qPrintable(error));
+        QVERIFY2(error.startsWith(folder.path()), "the message names the file");
+    }
+
+    void missingFolderIsNamed()
+    {
+        QString error;
+        QVERIFY(!loadRecording(QStringLiteral("/nonexistent/recording"), &error));
+        QCOMPARE(error, QStringLiteral("/nonexistent/recording: no such recording folder"));
+    }
+
+    void commandLineReader_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("output"); // a fragment of standard output, or of standard error on failure
+        QTest::newRow("recording as JSON") << QStringList{QStringLiteral("--source"), QStringLiteral("recorded:") + kFixtures + QStringLiteral("desktop-26"),
+                                                          QStringLiteral("--once"), QStringLiteral("--json")}
+                                           << 0 << QStringLiteral("\"dcPowerW\":35,");
+        QTest::newRow("recording as a line") << QStringList{QStringLiteral("--source"), QStringLiteral("recorded:") + kFixtures + QStringLiteral("notebook-charging-26"),
+                                                            QStringLiteral("--once")}
+                                             << 0 << QStringLiteral("46.4 W");
+        QTest::newRow("broken recording") << QStringList{QStringLiteral("--source"), QStringLiteral("recorded:/nonexistent"), QStringLiteral("--once")}
+                                          << 1 << QStringLiteral("ferrow-cli: /nonexistent: no such recording folder");
+        QTest::newRow("unknown source") << QStringList{QStringLiteral("--source"), QStringLiteral("mac")} << 2 << QStringLiteral("unknown source 'mac'");
+        QTest::newRow("help") << QStringList{QStringLiteral("--help")} << 0 << QStringLiteral("--source <source>");
+    }
+
+    void commandLineReader()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(int, exitCode);
+        QFETCH(QString, output);
+        QProcess cli;
+        cli.start(QStringLiteral(FERROW_CLI_PATH), arguments);
+        QVERIFY(cli.waitForFinished(20'000));
+        QCOMPARE(cli.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(cli.exitCode(), exitCode);
+        const QString printed = QString::fromUtf8(exitCode == 0 ? cli.readAllStandardOutput() : cli.readAllStandardError());
+        QVERIFY2(printed.contains(output), qPrintable(printed));
+        if (exitCode == 1)
+            QCOMPARE(printed.count(u'\n'), 1); // one clear line
+    }
+};
+
+QTEST_GUILESS_MAIN(RecordedMachineTest)
+#include "tst_recorded_machine.moc"
