@@ -1,43 +1,17 @@
 #include "app/machine_source.h"
+#include "app/terminal_view.h"
 #include "app/text_table.h"
 #include "model/snapshot_json.h"
 #include "sources/power_sensor_reader.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QJsonDocument>
 #include <QTextStream>
 #include <QThread>
-#include <QTimer>
 
-#include <csignal>
 
 using namespace ferrow;
-
-namespace {
-
-QString figure(std::optional<double> value, const char *format)
-{
-    return value ? QString::asprintf(format, *value) : QStringLiteral("\u2014");
-}
-
-// One line a reading: time, headline power, status, source, charge and the chip's blocks.
-QString summaryLine(const PowerSnapshot &s)
-{
-    const QDateTime time = QDateTime::fromMSecsSinceEpoch(
-        std::chrono::duration_cast<std::chrono::milliseconds>(s.updatedAt.time_since_epoch()).count());
-    QString line = time.toString(QStringLiteral("HH:mm:ss")) + QLatin1String("  ")
-                 + (figure(s.displayPowerW(), "%.1f") + QLatin1String(" W")).rightJustified(9) + QLatin1String("  ")
-                 + s.statusText().leftJustified(30) + s.powerSourceText();
-    if (s.hasBattery)
-        line += QStringLiteral("  %1 %").arg(s.batteryPercent);
-    line += QStringLiteral("  system %1 W  cpu %2 W  gpu %3 W")
-                .arg(QString::asprintf("%.1f", s.systemPowerW), figure(s.chipPower.cpu, "%.2f"), figure(s.chipPower.gpu, "%.2f"));
-    return line;
-}
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -78,28 +52,16 @@ int main(int argc, char *argv[])
 
     QTextStream out(stdout);
     const bool json = parser.isSet(jsonOption);
-    const auto print = [&](const PowerSnapshot &snapshot) {
-        if (json)
-            out << QJsonDocument(snapshotToJson(snapshot)).toJson(QJsonDocument::Compact) << Qt::endl;
-        else
-            out << summaryLine(snapshot) << Qt::endl;
-    };
-
     if (parser.isSet(onceOption)) {
         reader.read(); // the baseline that chip power is measured against
         if (realTime)
             QThread::sleep(1);
-        print(reader.read());
+        const PowerSnapshot snapshot = reader.read();
+        out << (json ? QString::fromUtf8(QJsonDocument(snapshotToJson(snapshot)).toJson(QJsonDocument::Compact)) : readingSummaryLine(snapshot))
+            << Qt::endl;
         return 0;
     }
-
     if (!json)
         out << "Reading the " << machine->description << " once a second; Ctrl+C to stop." << Qt::endl;
-    std::signal(SIGINT, [](int) { QCoreApplication::quit(); });
-    std::signal(SIGTERM, [](int) { QCoreApplication::quit(); });
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &application, [&] { print(reader.read()); });
-    print(reader.read());
-    timer.start(1000);
-    return QCoreApplication::exec();
+    return runTerminalView(reader, json, out);
 }

@@ -1,40 +1,88 @@
+#include "app/app_services.h"
+#include "app/application_shell.h"
 #include "app/machine_source.h"
+#include "app/terminal_view.h"
 #include "app/text_table.h"
-#include "monitor/power_monitor.h"
 #include "monitor/sleep_wake_notifier.h"
 #include "sources/power_sensor_reader.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QTextStream>
 
-#include <memory>
+#if defined(Q_OS_LINUX)
+#include "platform/linux/logind_sleep_notifier.h"
+#endif
 
 using namespace ferrow;
 
-int main(int argc, char *argv[])
+namespace {
+
+bool hasDisplay()
 {
-    QCoreApplication application(argc, argv);
+#if defined(Q_OS_LINUX)
+    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+#else
+    return true;
+#endif
+}
+
+std::unique_ptr<SleepWakeNotifier> makeSleepWakeNotifier()
+{
+#if defined(Q_OS_LINUX)
+    return std::make_unique<LogindSleepNotifier>();
+#else
+    return std::make_unique<SleepWakeNotifier>();
+#endif
+}
+
+void nameApplication()
+{
     QCoreApplication::setApplicationName(QStringLiteral("Ferrow"));
     QCoreApplication::setOrganizationName(QStringLiteral("Ferrow"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(FERROW_VERSION));
+}
+
+// Without a display there is nothing to show a window on: read the same machine in the terminal.
+int runHeadless(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    nameApplication();
     installTextTable(application);
+    QTextStream out(stdout);
+    QString error;
+    std::optional<OpenedMachine> machine = openMachine(MachineSource{}, &error);
+    if (!machine) {
+        QTextStream(stderr) << "ferrow: " << error << Qt::endl;
+        return 1;
+    }
+    out << "ferrow: no display here, so the " << machine->description
+        << " is shown in the terminal instead (Ctrl+C to stop)." << Qt::endl;
+    PowerSensorReader reader(std::move(machine->platform));
+    return runTerminalView(reader, false, out);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (!hasDisplay())
+        return runHeadless(argc, argv);
+
+    QApplication application(argc, argv);
+    nameApplication();
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setQuitOnLastWindowClosed(false); // the tray item lives on with every window closed
+    installTextTable(application);
+    registerBrandFonts();
 
     QString error;
     std::optional<OpenedMachine> machine = openMachine(MachineSource{}, &error);
     if (!machine) {
-        QTextStream(stderr) << "ferrow: " << error << '\n';
+        QTextStream(stderr) << "ferrow: " << error << Qt::endl;
         return 1;
     }
-    SleepWakeNotifier sleepWake;
-    PowerMonitor monitor(std::make_unique<PowerSensorReader>(std::move(machine->platform)), &sleepWake);
-
-    QTextStream out(stdout);
-    out << "Ferrow is reading the " << machine->description << ". Ctrl+C to quit.\n";
-    QObject::connect(&monitor, &PowerMonitor::snapshotChanged, &monitor, [&] {
-        const PowerSnapshot &snapshot = monitor.snapshot();
-        const auto powerW = snapshot.displayPowerW();
-        out << (powerW ? QString::asprintf("%.1f W", *powerW) : QStringLiteral("\u2014 W")).rightJustified(9) << "  "
-            << snapshot.statusText() << Qt::endl;
-    });
-    monitor.start();
-    return QCoreApplication::exec();
+    ApplicationShell shell(std::move(*machine), makeSleepWakeNotifier(), std::make_unique<XdgAutostartLoginItem>());
+    shell.start();
+    return QApplication::exec();
 }

@@ -21,4 +21,10 @@ QString localizedFormat(const char *key, std::initializer_list<std::int64_t> arg
     return text;
 }
 
+QString localizedFormatText(const char *key, const QString &argument)
+{
+    const QString text = qtTrId(key);
+    return text.contains(u'%') ? text.arg(argument) : text;
+}
+
 } // namespace ferrow

@@ -13,6 +13,9 @@ QString localizedText(const char *key);
 // The key's text with its %1, %2 ... (or %L1 ...) placeholders filled in the current locale.
 QString localizedFormat(const char *key, std::initializer_list<std::int64_t> arguments);
 
+// The key's text with its one %1 placeholder filled by a text.
+QString localizedFormatText(const char *key, const QString &argument);
+
 // The one absent-value text of every view.
 inline constexpr char16_t kAbsentText[] = u"\u2014";
 

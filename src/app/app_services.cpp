@@ -1,0 +1,70 @@
+#include "app/app_services.h"
+
+#include "model/localized_text.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFontDatabase>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace ferrow {
+
+QString appVersionString(const std::optional<QString> &shortVersion, const std::optional<QString> &buildVersion)
+{
+    if (shortVersion && !shortVersion->isEmpty())
+        return *shortVersion;
+    if (buildVersion)
+        return *buildVersion;
+    return QString::fromUtf16(kAbsentText);
+}
+
+void registerBrandFonts()
+{
+    for (const char *file : {":/fonts/GoogleSansFlex_400Regular.ttf", ":/fonts/GoogleSansFlex_600SemiBold.ttf"})
+        QFontDatabase::addApplicationFont(QString::fromLatin1(file));
+}
+
+XdgAutostartLoginItem::XdgAutostartLoginItem(QString autostartFolder, QString executable)
+    : m_folder(autostartFolder.isEmpty()
+                   ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/autostart")
+                   : std::move(autostartFolder))
+    , m_executable(executable.isEmpty() ? QCoreApplication::applicationFilePath() : std::move(executable))
+{
+}
+
+QString XdgAutostartLoginItem::entryPath() const
+{
+    return m_folder + QStringLiteral("/ferrow.desktop");
+}
+
+bool XdgAutostartLoginItem::isEnabled() const
+{
+    QFile entry(entryPath());
+    if (!entry.open(QIODevice::ReadOnly))
+        return false;
+    // An entry the user switched off in the desktop's settings does not count.
+    const QByteArray text = entry.read(64 * 1024);
+    return !text.contains("Hidden=true") && !text.contains("X-GNOME-Autostart-enabled=false");
+}
+
+bool XdgAutostartLoginItem::setEnabled(bool enabled)
+{
+    if (!enabled)
+        return !QFile::exists(entryPath()) || QFile::remove(entryPath());
+    if (!QDir().mkpath(m_folder))
+        return false;
+    QSaveFile entry(entryPath());
+    if (!entry.open(QIODevice::WriteOnly))
+        return false;
+    QString quoted = m_executable;
+    quoted.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
+    const QString text = QStringLiteral("[Desktop Entry]\nType=Application\nName=Ferrow\nComment=Power monitor\n"
+                                        "Exec=\"%1\"\nTerminal=false\nX-GNOME-Autostart-enabled=true\n")
+                             .arg(quoted);
+    entry.write(text.toUtf8());
+    return entry.commit();
+}
+
+} // namespace ferrow

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace ferrow {
+
+// The version a user sees: the short version when it is a non-empty text, else the build number
+// when there is one (even empty), else the dash.
+QString appVersionString(const std::optional<QString> &shortVersion, const std::optional<QString> &buildVersion);
+
+// Registers the brand font (Google Sans Flex) for this process; a missing file is skipped.
+void registerBrandFonts();
+
+// The platform's login-item registration for this application.
+class LoginItem {
+public:
+    virtual ~LoginItem() = default;
+    virtual bool isEnabled() const = 0;
+    // False when the system refused; the caller then shows isEnabled() again.
+    virtual bool setEnabled(bool enabled) = 0;
+};
+
+// Launch at login on Linux desktops: an entry in the user's XDG autostart folder.
+class XdgAutostartLoginItem final : public LoginItem {
+public:
+    // The user's autostart folder and this program, unless given.
+    explicit XdgAutostartLoginItem(QString autostartFolder = QString(), QString executable = QString());
+
+    bool isEnabled() const override;
+    bool setEnabled(bool enabled) override;
+    QString entryPath() const;
+
+private:
+    QString m_folder;
+    QString m_executable;
+};
+
+} // namespace ferrow

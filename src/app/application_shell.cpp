@@ -1,0 +1,179 @@
+#include "app/application_shell.h"
+
+#include "app/app_settings.h"
+#include "app/menu_bar_label.h"
+#include "app/popover_placement.h"
+#include "model/localized_text.h"
+#include "monitor/power_monitor.h"
+#include "monitor/sleep_wake_notifier.h"
+#include "sources/power_sensor_reader.h"
+#include "views/dashboard_view.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QScreen>
+#include <QStyleHints>
+#include <QSystemTrayIcon>
+#include <QVBoxLayout>
+
+namespace ferrow {
+namespace {
+
+ColorScheme systemColorScheme()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    if (const Qt::ColorScheme scheme = QGuiApplication::styleHints()->colorScheme(); scheme != Qt::ColorScheme::Unknown)
+        return scheme == Qt::ColorScheme::Dark ? ColorScheme::dark : ColorScheme::light;
+#endif
+    return QGuiApplication::palette().color(QPalette::Window).lightness() < 128 ? ColorScheme::dark : ColorScheme::light;
+}
+
+} // namespace
+
+ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepWakeNotifier> sleepWake,
+                                   std::unique_ptr<LoginItem> loginItem, QObject *parent)
+    : QObject(parent)
+    , m_machineInfo{nullptr, machine.description, machine.isSimulated, machine.runsInRealTime}
+    , m_sleepWake(std::move(sleepWake))
+    , m_loginItem(std::move(loginItem))
+    , m_monitor(std::make_unique<PowerMonitor>(std::make_unique<PowerSensorReader>(std::move(machine.platform)), m_sleepWake.get()))
+{
+    m_usesTray = QSystemTrayIcon::isSystemTrayAvailable();
+
+    m_window = std::make_unique<QWidget>(nullptr, m_usesTray ? Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint : Qt::Window);
+    m_window->setObjectName(QStringLiteral("dashboardWindow"));
+    m_window->setWindowTitle(localizedText("FERROW"));
+    m_window->setWindowIcon(QIcon(QStringLiteral(":/icons/ferrow-256.png")));
+    auto *layout = new QVBoxLayout(m_window.get());
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    if (!m_usesTray) {
+        auto *notice = new QLabel(localizedText("tray.no_tray_notice"));
+        notice->setObjectName(QStringLiteral("noTrayNotice"));
+        notice->setWordWrap(true);
+        notice->setContentsMargins(12, 8, 12, 8);
+        layout->addWidget(notice);
+    }
+    m_dashboard = new DashboardView;
+    layout->addWidget(m_dashboard);
+    m_window->installEventFilter(this);
+    m_window->setFixedSize(m_window->sizeHint());
+
+    if (m_machineInfo.isSimulated) {
+        m_dashboard->setSubtitle(localizedText(m_machineInfo.description.contains(u"desktop") ? "app.menu_subtitle_simulated_desktop"
+                                                                                                : "app.menu_subtitle_simulated"));
+    }
+    m_dashboard->setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+    m_dashboard->setShowPowerInMenuBar(readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true));
+    m_dashboard->setLaunchAtLogin(m_loginItem->isEnabled());
+    m_dashboard->setReduceMotion(readBoolSetting(m_settings, AppSetting::reduceMotion, false));
+    m_dashboard->setDetailsAvailable(false); // the details window comes with the main window
+
+    connect(m_dashboard, &DashboardView::showPowerInMenuBarToggled, this, [this](bool shown) {
+        m_settings.setValue(AppSetting::showPowerInMenuBar, shown);
+        updateTrayItem();
+    });
+    connect(m_dashboard, &DashboardView::launchAtLoginToggled, this, [this](bool enabled) {
+        if (!m_loginItem->setEnabled(enabled))
+            m_dashboard->setLaunchAtLogin(m_loginItem->isEnabled());
+    });
+    connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, &ApplicationShell::showSnapshot);
+    applyAppearance();
+
+    if (m_usesTray) {
+        m_menu = std::make_unique<QMenu>();
+        m_menu->addAction(localizedText("action.show_dashboard"), this, &ApplicationShell::togglePopover);
+        m_menu->addSeparator();
+        m_menu->addAction(localizedText("action.quit"), qApp, &QCoreApplication::quit);
+        m_tray = new QSystemTrayIcon(this);
+        m_tray->setContextMenu(m_menu.get());
+        connect(m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+            if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+                togglePopover();
+        });
+    }
+}
+
+ApplicationShell::~ApplicationShell() = default;
+
+void ApplicationShell::start()
+{
+    m_monitor->start();
+    if (m_usesTray) {
+        updateTrayItem();
+        m_tray->show();
+    } else {
+        m_window->show();
+    }
+}
+
+FerrowPalette ApplicationShell::currentPalette() const
+{
+    const QString appearance = m_settings.value(AppSetting::appearance).toString();
+    if (appearance == u"light")
+        return {ColorScheme::light};
+    if (appearance == u"dark")
+        return {ColorScheme::dark};
+    return {systemColorScheme()};
+}
+
+void ApplicationShell::applyAppearance()
+{
+    const FerrowPalette palette = currentPalette();
+    m_dashboard->setFerrowPalette(palette);
+    QPalette windowPalette = m_window->palette();
+    windowPalette.setColor(QPalette::Window, palette.panelBackground());
+    windowPalette.setColor(QPalette::WindowText, palette.secondaryText());
+    m_window->setPalette(windowPalette);
+    m_window->setAutoFillBackground(true);
+}
+
+void ApplicationShell::showSnapshot()
+{
+    m_dashboard->setSnapshot(m_monitor->snapshot());
+    updateTrayItem();
+}
+
+void ApplicationShell::updateTrayItem()
+{
+    if (!m_tray)
+        return;
+    const PowerSnapshot &snapshot = m_monitor->snapshot();
+    m_tray->setIcon(renderTrayIcon(snapshot, readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true)));
+    const QString figure = menuBarFigureText(snapshot) + QStringLiteral(" \u00B7 ") + snapshot.statusText();
+    m_tray->setToolTip(localizedFormatText(m_machineInfo.isSimulated ? "tray.tooltip_simulated" : "tray.tooltip", figure));
+}
+
+void ApplicationShell::togglePopover()
+{
+    if (m_window->isVisible()) {
+        m_window->hide();
+        return;
+    }
+    const QRect item = m_tray ? m_tray->geometry() : QRect();
+    const QPoint cursor = QCursor::pos();
+    QScreen *screen = QGuiApplication::screenAt(item.isValid() ? item.center() : cursor);
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    m_window->move(popoverPosition(item, m_window->size(), screen->availableGeometry(), cursor));
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+    m_monitor->start();
+}
+
+bool ApplicationShell::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window.get()) {
+        if (event->type() == QEvent::WindowDeactivate && m_usesTray)
+            m_window->hide(); // a popover closes when it loses focus
+        else if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ThemeChange)
+            applyAppearance();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace ferrow

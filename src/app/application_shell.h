@@ -1,0 +1,59 @@
+#pragma once
+
+#include "app/app_services.h"
+#include "app/machine_source.h"
+#include "views/ferrow_palette.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QSettings>
+
+#include <memory>
+
+class QSystemTrayIcon;
+class QMenu;
+class QWidget;
+
+namespace ferrow {
+
+class DashboardView;
+class PowerMonitor;
+class SleepWakeNotifier;
+
+// The running application: the one monitor, the menu-bar (tray) item with its popover, and the
+// settings and services the dashboard changes. Where the desktop has no tray, the dashboard is an
+// ordinary window that says why.
+class ApplicationShell : public QObject {
+    Q_OBJECT
+public:
+    ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepWakeNotifier> sleepWake, std::unique_ptr<LoginItem> loginItem,
+                     QObject *parent = nullptr);
+    ~ApplicationShell() override;
+
+    void start();
+    DashboardView *dashboard() const { return m_dashboard; }
+    QWidget *dashboardWindow() const { return m_window.get(); }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void showSnapshot();
+    void updateTrayItem();
+    void togglePopover();
+    void applyAppearance();
+    FerrowPalette currentPalette() const;
+
+    QSettings m_settings;
+    OpenedMachine m_machineInfo;
+    std::unique_ptr<SleepWakeNotifier> m_sleepWake;
+    std::unique_ptr<LoginItem> m_loginItem;
+    std::unique_ptr<PowerMonitor> m_monitor;
+    std::unique_ptr<QWidget> m_window;
+    DashboardView *m_dashboard = nullptr;
+    std::unique_ptr<QMenu> m_menu;
+    QSystemTrayIcon *m_tray = nullptr;
+    bool m_usesTray = false;
+};
+
+} // namespace ferrow

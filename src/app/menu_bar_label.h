@@ -1,0 +1,20 @@
+#pragma once
+
+#include "model/power_snapshot.h"
+#include "views/glyphs.h"
+
+#include <QIcon>
+#include <QString>
+
+namespace ferrow {
+
+// The menu-bar item's content: the bolt on external power, the battery otherwise; the headline
+// figure as "%.1f W" (or "— W" before there is one).
+Glyph menuBarGlyph(const PowerSnapshot &snapshot);
+QString menuBarFigureText(const PowerSnapshot &snapshot);
+// The figure as it fits inside a square tray icon: one decimal below 10 W, whole watts above.
+QString trayIconFigure(std::optional<double> powerW);
+// A monochrome tray icon: the glyph alone, or the figure with a small glyph above it.
+QIcon renderTrayIcon(const PowerSnapshot &snapshot, bool showPower);
+
+} // namespace ferrow

@@ -1,0 +1,47 @@
+#include "app/terminal_view.h"
+
+#include "model/snapshot_json.h"
+#include "views/dashboard_model.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QJsonDocument>
+#include <QTextStream>
+#include <QTimer>
+
+#include <csignal>
+
+namespace ferrow {
+
+QString readingSummaryLine(const PowerSnapshot &s)
+{
+    const QDateTime time =
+        QDateTime::fromMSecsSinceEpoch(std::chrono::duration_cast<std::chrono::milliseconds>(s.updatedAt.time_since_epoch()).count());
+    QString line = time.toString(QStringLiteral("HH:mm:ss")) + QLatin1String("  ") + formatFigure(s.displayPowerW(), "%.1f W").rightJustified(9)
+                 + QLatin1String("  ") + s.statusText().leftJustified(30) + s.powerSourceText();
+    if (s.hasBattery)
+        line += QStringLiteral("  %1 %").arg(s.batteryPercent);
+    line += QStringLiteral("  system %1  cpu %2  gpu %3")
+                .arg(QString::asprintf("%.1f W", s.systemPowerW), formatFigure(s.chipPower.cpu, "%.2f W"), formatFigure(s.chipPower.gpu, "%.2f W"));
+    return line;
+}
+
+int runTerminalView(SnapshotReader &reader, bool json, QTextStream &out)
+{
+    const auto print = [&] {
+        const PowerSnapshot snapshot = reader.read();
+        if (json)
+            out << QJsonDocument(snapshotToJson(snapshot)).toJson(QJsonDocument::Compact) << Qt::endl;
+        else
+            out << readingSummaryLine(snapshot) << Qt::endl;
+    };
+    std::signal(SIGINT, [](int) { QCoreApplication::quit(); });
+    std::signal(SIGTERM, [](int) { QCoreApplication::quit(); });
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, print);
+    print();
+    timer.start(1000);
+    return QCoreApplication::exec();
+}
+
+} // namespace ferrow

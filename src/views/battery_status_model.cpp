@@ -1,0 +1,46 @@
+#include "views/battery_status_model.h"
+
+#include "model/localized_text.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ferrow {
+
+QString batteryHealthText(const PowerSnapshot &s)
+{
+    if (!s.batteryHealthPercent)
+        return QString::fromUtf16(kAbsentText);
+    if (!s.batteryHealthCondition)
+        return QString::number(*s.batteryHealthPercent) + u'%';
+    QString text = localizedText("battery.health_value");
+    if (!text.contains(u'%'))
+        return text;
+    return text.arg(static_cast<qlonglong>(*s.batteryHealthPercent)).arg(localizedName(*s.batteryHealthCondition));
+}
+
+QString batteryTemperatureText(std::optional<double> celsius)
+{
+    return celsius ? QString::asprintf("%.1f \u00B0C", *celsius) : QString::fromUtf16(kAbsentText);
+}
+
+double segmentFillFraction(std::int64_t level, int index)
+{
+    return std::clamp((static_cast<double>(level) - 10.0 * index) / 10.0, 0.0, 1.0);
+}
+
+MeterValueText meterValueText(std::optional<double> value)
+{
+    if (!value || !std::isfinite(*value))
+        return {QString::fromUtf16(kAbsentText), QString()};
+    const QString text = QString::asprintf("%.5f", *value);
+    return {text.chopped(2), text.right(2)};
+}
+
+QString meterAccessibleText(const QString &code, std::optional<double> value, const QString &unit)
+{
+    const QString figure = value && std::isfinite(*value) ? QString::asprintf("%.5f", *value) : QString::fromUtf16(kAbsentText);
+    return code + u' ' + figure + u' ' + unit;
+}
+
+} // namespace ferrow

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "model/power_snapshot.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace ferrow {
+
+QString batteryHealthText(const PowerSnapshot &snapshot);
+QString batteryTemperatureText(std::optional<double> celsius);
+// How much of gauge segment index (0..9) is filled at this charge level, 0 to 1.
+double segmentFillFraction(std::int64_t level, int index);
+
+// A meter's "%.5f" figure split for drawing: all but the last two characters large, those two smaller.
+struct MeterValueText {
+    QString large;
+    QString small;
+};
+MeterValueText meterValueText(std::optional<double> value);
+QString meterAccessibleText(const QString &code, std::optional<double> value, const QString &unit);
+
+} // namespace ferrow

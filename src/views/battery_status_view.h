@@ -1,0 +1,28 @@
+#pragma once
+
+#include "views/snapshot_view.h"
+
+#include <QColor>
+
+class QPainter;
+
+namespace ferrow {
+
+// The popover's battery card: state, charge, a ten-segment gauge and three compact figures, or
+// a notice on machines without a battery.
+class BatteryStatusView : public SnapshotView {
+public:
+    explicit BatteryStatusView(QWidget *parent = nullptr);
+    QSize sizeHint() const override { return {414, 76}; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+// The ten-segment charge gauge.
+void paintBatterySegments(QPainter &painter, const QRectF &rect, std::int64_t level, const FerrowPalette &palette);
+// A two-line figure: a small label over a monospaced value.
+void paintCompactMetric(QPainter &painter, const QRectF &rect, const QString &label, const QString &value, const QColor &color,
+                        const FerrowPalette &palette);
+
+} // namespace ferrow

@@ -1,0 +1,129 @@
+#include "views/brand_links.h"
+
+#include "model/localized_text.h"
+#include "views/view_painting.h"
+
+#include <QDesktopServices>
+#include <cmath>
+#include <QEasingCurve>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+namespace ferrow {
+
+const QUrl &officialWebsiteUrl()
+{
+    static const QUrl url(QStringLiteral("https://ferrow.app"));
+    return url;
+}
+
+FerrowLogoLink::FerrowLogoLink(double size, double cornerRadius, QWidget *parent)
+    : QAbstractButton(parent)
+    , m_size(size)
+    , m_cornerRadius(cornerRadius)
+{
+    setCursor(Qt::PointingHandCursor);
+    setToolTip(localizedText("action.open_official_website"));
+    setAccessibleName(localizedText("action.open_official_website"));
+    setFixedSize(sizeHint());
+    m_hoverAnimation.setDuration(140);
+    m_hoverAnimation.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&m_hoverAnimation, &QVariantAnimation::valueChanged, this, [this](const QVariant &value) {
+        m_hoverProgress = value.toDouble();
+        update();
+    });
+    connect(this, &QAbstractButton::clicked, this, [] { QDesktopServices::openUrl(officialWebsiteUrl()); });
+}
+
+QSize FerrowLogoLink::sizeHint() const
+{
+    const int side = static_cast<int>(std::ceil(m_size));
+    return {side, side + 1}; // a point of room to rise into
+}
+
+void FerrowLogoLink::setHovered(bool hovered)
+{
+    if (hovered == m_hovered)
+        return;
+    m_hovered = hovered;
+    m_hoverAnimation.stop();
+    if (m_reduceMotion) {
+        m_hoverProgress = hovered ? 1 : 0;
+        update();
+        return;
+    }
+    m_hoverAnimation.setStartValue(m_hoverProgress);
+    m_hoverAnimation.setEndValue(hovered ? 1.0 : 0.0);
+    m_hoverAnimation.start();
+}
+
+void FerrowLogoLink::enterEvent(QEnterEvent *event)
+{
+    QAbstractButton::enterEvent(event);
+    setHovered(true);
+}
+
+void FerrowLogoLink::leaveEvent(QEvent *event)
+{
+    QAbstractButton::leaveEvent(event);
+    setHovered(false);
+}
+
+void FerrowLogoLink::paintEvent(QPaintEvent *)
+{
+    static const QPixmap icon(QStringLiteral(":/icons/ferrow-256.png"));
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.setOpacity(1.0 - 0.18 * m_hoverProgress);
+    const double rise = m_reduceMotion ? 0.0 : m_hoverProgress;
+    const QRectF frame(0, 1 - rise, m_size, m_size);
+    QPainterPath clip;
+    clip.addRoundedRect(frame, m_cornerRadius, m_cornerRadius);
+    painter.setClipPath(clip);
+    painter.drawPixmap(frame, icon, QRectF(icon.rect()));
+}
+
+OfficialWebsiteLink::OfficialWebsiteLink(QWidget *parent)
+    : QAbstractButton(parent)
+{
+    setCursor(Qt::PointingHandCursor);
+    setToolTip(localizedText("action.open_official_website"));
+    setAccessibleDescription(localizedText("action.open_official_website"));
+    setText(officialWebsiteUrl().host());
+    setFixedHeight(20);
+    connect(this, &QAbstractButton::clicked, this, [] { QDesktopServices::openUrl(officialWebsiteUrl()); });
+}
+
+void OfficialWebsiteLink::setFerrowPalette(const FerrowPalette &palette)
+{
+    m_palette = palette;
+    update();
+}
+
+void OfficialWebsiteLink::enterEvent(QEnterEvent *event)
+{
+    QAbstractButton::enterEvent(event);
+    m_hovered = true;
+    update();
+}
+
+void OfficialWebsiteLink::leaveEvent(QEvent *event)
+{
+    QAbstractButton::leaveEvent(event);
+    m_hovered = false;
+    update();
+}
+
+void OfficialWebsiteLink::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    QFont font = brandFont(9, QFont::DemiBold);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, 0.225);
+    painter.setFont(font);
+    painter.setPen(m_hovered ? m_palette.accent() : m_palette.secondaryText());
+    painter.drawText(QRectF(rect()).adjusted(0, 6, 0, 0), Qt::AlignHCenter | Qt::AlignTop, text());
+}
+
+} // namespace ferrow

@@ -1,0 +1,63 @@
+#include "views/dashboard_model.h"
+
+#include "model/localized_text.h"
+
+#include <cmath>
+
+namespace ferrow {
+
+StatusIndicator statusIndicator(const PowerSnapshot &snapshot)
+{
+    if (snapshot.isDataAvailable)
+        return {ColorRole::liveGreen, localizedText("status.live")};
+    return {ColorRole::orange, localizedText("status.waiting")};
+}
+
+std::optional<double> displayVoltageV(const PowerSnapshot &snapshot)
+{
+    if (!snapshot.isBatterySide())
+        return snapshot.dcVoltageV;
+    return snapshot.batteryRailVoltageV ? snapshot.batteryRailVoltageV : snapshot.batteryVoltageV;
+}
+
+QString meterCaption(const PowerSnapshot &snapshot)
+{
+    return snapshot.isBatterySide() ? localizedText("power.battery_discharge") : QStringLiteral("DC IN");
+}
+
+QString formatFigure(std::optional<double> value, const char *format)
+{
+    // A figure with no finite value (a 0 V divisor) reads as absent, never "inf".
+    return value && std::isfinite(*value) ? QString::asprintf(format, *value) : QString::fromUtf16(kAbsentText);
+}
+
+QString signedCurrentText(std::optional<double> currentA)
+{
+    if (!currentA || !std::isfinite(*currentA))
+        return QString::fromUtf16(kAbsentText);
+    return (*currentA > 0 ? QStringLiteral("+") : QString()) + QString::asprintf("%.3f A", *currentA);
+}
+
+std::array<TelemetryRowModel, 4> telemetryRows(const PowerSnapshot &s)
+{
+    if (!s.hasBattery) {
+        return {{
+            {localizedText("power.system_total"), QString::asprintf("%.1f W", s.systemPowerW), ColorRole::primaryText, true},
+            {localizedText("device.power_source"), localizedText("status.external_power"), ColorRole::positive, true},
+            {localizedText("battery.title"), localizedText("battery.not_detected"), ColorRole::secondaryText, true},
+            {localizedText("device.sample_rate"), QStringLiteral("1 Hz"), ColorRole::accent, false},
+        }};
+    }
+    const bool batteryPowered = s.isBatterySide();
+    const QString cycles = s.cycleCount ? QString::number(*s.cycleCount) : QString::fromUtf16(kAbsentText);
+    return {{
+        {localizedText("battery.cycle_count"), cycles, ColorRole::primaryText, true},
+        {localizedText("battery.voltage"), formatFigure(batteryPowered ? displayVoltageV(s) : s.batteryVoltageV, "%.2f V"),
+         ColorRole::primaryText, true},
+        {localizedText("battery.current"), signedCurrentText(batteryPowered ? s.displayCurrentA() : s.batteryCurrentA),
+         batteryPowered ? ColorRole::dischargePink : ColorRole::positive, true},
+        {localizedText("battery.charge_status"), s.statusText(), ColorRole::accent, false},
+    }};
+}
+
+} // namespace ferrow

@@ -1,0 +1,91 @@
+#include "views/glyphs.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace ferrow {
+
+void paintGlyph(QPainter &painter, Glyph glyph, const QRectF &box, const QColor &color, double batteryLevel)
+{
+    const double side = std::min(box.width(), box.height());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(box.center().x() - side / 2, box.center().y() - side / 2);
+    painter.scale(side, side); // the shapes below live in a unit square
+    QPen stroke(color, 0.085, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    const auto rounded = [](double x, double y, double w, double h, double r) {
+        QPainterPath path;
+        path.addRoundedRect(QRectF(x, y, w, h), r, r);
+        return path;
+    };
+
+    switch (glyph) {
+    case Glyph::bolt: {
+        const QPolygonF bolt{{0.60, 0.02}, {0.20, 0.56}, {0.47, 0.56}, {0.40, 0.98}, {0.80, 0.42}, {0.53, 0.42}};
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawPolygon(bolt);
+        break;
+    }
+    case Glyph::battery: {
+        painter.setPen(stroke);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(rounded(0.06, 0.28, 0.80, 0.44, 0.11));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawPath(rounded(0.885, 0.41, 0.07, 0.18, 0.03));
+        const double level = std::clamp(batteryLevel, 0.0, 1.0);
+        if (level > 0)
+            painter.drawPath(rounded(0.14, 0.36, 0.64 * level, 0.28, 0.05));
+        break;
+    }
+    case Glyph::plug:
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawPath(rounded(0.34, 0.04, 0.08, 0.26, 0.04));
+        painter.drawPath(rounded(0.58, 0.04, 0.08, 0.26, 0.04));
+        painter.drawPath(rounded(0.24, 0.27, 0.52, 0.34, 0.10));
+        painter.setPen(QPen(color, 0.10, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(QPointF(0.50, 0.62), QPointF(0.50, 0.94));
+        break;
+    case Glyph::laptop:
+        painter.setPen(stroke);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(rounded(0.17, 0.20, 0.66, 0.46, 0.05));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawPath(rounded(0.03, 0.72, 0.94, 0.09, 0.04));
+        break;
+    case Glyph::desktop:
+        painter.setPen(stroke);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(rounded(0.06, 0.12, 0.88, 0.56, 0.06));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawRect(QRectF(0.45, 0.70, 0.10, 0.14));
+        painter.drawPath(rounded(0.30, 0.84, 0.40, 0.07, 0.03));
+        break;
+    case Glyph::listRectangle:
+        painter.setPen(stroke);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(rounded(0.05, 0.14, 0.90, 0.72, 0.12));
+        for (const double y : {0.34, 0.50, 0.66}) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(color);
+            painter.drawEllipse(QPointF(0.24, y), 0.045, 0.045);
+            painter.setPen(QPen(color, 0.07, Qt::SolidLine, Qt::RoundCap));
+            painter.drawLine(QPointF(0.35, y), QPointF(0.77, y));
+        }
+        break;
+    case Glyph::chevronRight:
+        painter.setPen(QPen(color, 0.13, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPolyline(QPolygonF{{0.36, 0.14}, {0.68, 0.50}, {0.36, 0.86}});
+        break;
+    }
+    painter.restore();
+}
+
+} // namespace ferrow

@@ -1,0 +1,156 @@
+#include "views/power_flow_view.h"
+
+#include "model/localized_text.h"
+#include "views/glyphs.h"
+#include "views/power_flow_model.h"
+#include "views/view_painting.h"
+
+#include <QDateTime>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace ferrow {
+namespace {
+
+constexpr double kNodeWidth = 158;
+constexpr double kNodeHeight = 35;
+constexpr double kRowHeight = 76;
+
+void paintNode(QPainter &painter, const QRectF &node, Glyph glyph, const QString &title, const QString &value, const QColor &iconColor,
+               const FerrowPalette &palette, double batteryLevel = 0.75)
+{
+    paintCardSurface(painter, node, 7, palette);
+    const QRectF inner = node.adjusted(7, 0, -7, 0);
+    paintGlyph(painter, glyph, QRectF(inner.left(), inner.center().y() - 8, 18, 16), iconColor, batteryLevel);
+    const double textLeft = inner.left() + 18 + 5;
+    painter.setPen(palette.secondaryText());
+    drawFittedText(painter, QRectF(textLeft, node.top() + 4, inner.right() - textLeft, 12), title, uiFont(9), 0.85, Qt::AlignLeft);
+    painter.setPen(palette.primaryText());
+    drawFittedText(painter, QRectF(textLeft, node.top() + 17, inner.right() - textLeft, 14), value, monospacedFont(10, QFont::Bold), 0.8,
+                   Qt::AlignLeft);
+}
+
+QString formatFlowValue(double watts)
+{
+    return flowNodeValueText(FlowNodeValue{watts, QString(), ColorRole::primaryText});
+}
+
+// The glow under a stroke (the end tone at 0.58): two wider, fainter passes of the same path.
+void strokeWithGlow(QPainter &painter, const QPainterPath &path, const QBrush &brush, QColor glow)
+{
+    for (const auto &[width, share] : {std::pair{7.0, 0.25}, std::pair{4.6, 0.45}}) {
+        glow.setAlphaF(static_cast<float>(0.58 * share));
+        painter.setPen(QPen(glow, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.drawPath(path);
+    }
+    painter.setPen(QPen(brush, 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(path);
+}
+
+} // namespace
+
+PowerFlowView::PowerFlowView(QWidget *parent)
+    : SnapshotView(parent)
+{
+    setFixedHeight(24 + kRowHeight + 16);
+    m_frameTimer.setInterval(33); // at most 30 frames a second
+    connect(&m_frameTimer, &QTimer::timeout, this, qOverload<>(&QWidget::update));
+}
+
+void PowerFlowView::setReduceMotion(bool reduceMotion)
+{
+    m_reduceMotion = reduceMotion;
+    updateTimer();
+    update();
+}
+
+void PowerFlowView::showEvent(QShowEvent *event)
+{
+    SnapshotView::showEvent(event);
+    updateTimer();
+}
+
+void PowerFlowView::hideEvent(QHideEvent *event)
+{
+    SnapshotView::hideEvent(event);
+    updateTimer();
+}
+
+void PowerFlowView::updateTimer()
+{
+    if (isVisible() && !m_reduceMotion)
+        m_frameTimer.start();
+    else
+        m_frameTimer.stop();
+}
+
+void PowerFlowView::paintConnector(QPainter &painter, const QRectF &rect, const PowerSnapshot &snapshot, double phase)
+{
+    const FlowInputs inputs = flowInputs(snapshot);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(rect.topLeft());
+    for (const FlowStroke &stroke : flowStrokes(flowCase(inputs), rect.size())) {
+        QPainterPath path(stroke.start);
+        if (stroke.isCurve)
+            path.cubicTo(stroke.control1, stroke.control2, stroke.end);
+        else
+            path.lineTo(stroke.end);
+        QLinearGradient gradient(stroke.start, stroke.end);
+        gradient.setColorAt(0, stroke.startColor);
+        gradient.setColorAt(1, stroke.endColor);
+        strokeWithGlow(painter, path, gradient, stroke.endColor);
+    }
+    painter.setPen(Qt::NoPen);
+    for (const FlowDot &dot : flowDots(inputs, rect.size(), phase)) {
+        QColor halo = dot.color;
+        halo.setAlphaF(0.28f);
+        painter.setBrush(halo);
+        painter.drawEllipse(dot.position, 5.5, 5.5);
+        painter.setBrush(dot.color);
+        painter.drawEllipse(dot.position, 3, 3);
+        painter.setBrush(QColor(255, 255, 255, 224));
+        painter.drawEllipse(dot.position, 1, 1);
+    }
+    painter.restore();
+}
+
+void PowerFlowView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const FerrowPalette &palette = ferrowPalette();
+    const PowerSnapshot &s = snapshot();
+    const QRectF area = QRectF(rect()).adjusted(8, 4, -8, -6);
+
+    painter.setPen(palette.primaryText());
+    drawFittedText(painter, QRectF(area.left(), area.top(), area.width() * 0.55, 18), localizedText("power.live_flow"),
+                   uiFont(13, QFont::DemiBold), 0.85, Qt::AlignLeft);
+    painter.setPen(palette.secondaryText());
+    drawFittedText(painter, QRectF(area.left() + area.width() * 0.55, area.top(), area.width() * 0.45, 18), s.powerSourceText(), uiFont(8),
+                   0.85, Qt::AlignRight);
+
+    const QRectF row(area.left(), area.top() + 22, area.width(), kRowHeight);
+    const QRectF adapterNode(row.left(), row.center().y() - kNodeHeight / 2, kNodeWidth, kNodeHeight);
+    paintNode(painter, adapterNode, Glyph::plug, localizedText("power.adapter"), formatFlowValue(s.dcPowerW), FixedColor::liveGreen, palette);
+
+    const QRectF rightColumn(row.right() - kNodeWidth, row.top(), kNodeWidth, row.height());
+    const QString systemText = formatFlowValue(s.systemPowerW);
+    if (s.hasBattery) {
+        const QRectF macNode(rightColumn.left(), rightColumn.top(), kNodeWidth, kNodeHeight);
+        const QRectF batteryNode(rightColumn.left(), rightColumn.bottom() - kNodeHeight, kNodeWidth, kNodeHeight);
+        paintNode(painter, macNode, Glyph::laptop, localizedText("power.mac_system"), systemText, FixedColor::macBlue, palette);
+        const FlowNodeValue battery = batteryNodeValue(s);
+        paintNode(painter, batteryNode, Glyph::battery, localizedText("battery.title"), flowNodeValueText(battery),
+                  palette.color(battery.iconColor), palette);
+    } else {
+        const QRectF macNode(rightColumn.left(), row.center().y() - kNodeHeight / 2, kNodeWidth, kNodeHeight);
+        paintNode(painter, macNode, Glyph::desktop, localizedText("power.mac_system"), systemText, FixedColor::macBlue, palette);
+    }
+
+    const QRectF connector(adapterNode.right(), row.top(), rightColumn.left() - adapterNode.right(), row.height());
+    const double seconds = static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
+    paintConnector(painter, connector, s, flowPhase(seconds, m_reduceMotion));
+}
+
+} // namespace ferrow

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/power_snapshot.h"
+#include "views/ferrow_palette.h"
+
+#include <QWidget>
+
+namespace ferrow {
+
+// A widget that paints one snapshot in one palette and repaints when either changes.
+class SnapshotView : public QWidget {
+public:
+    using QWidget::QWidget;
+
+    void setSnapshot(const PowerSnapshot &snapshot)
+    {
+        m_snapshot = snapshot;
+        update();
+    }
+    void setFerrowPalette(const FerrowPalette &palette)
+    {
+        m_palette = palette;
+        update();
+    }
+    const PowerSnapshot &snapshot() const { return m_snapshot; }
+    const FerrowPalette &ferrowPalette() const { return m_palette; }
+
+private:
+    PowerSnapshot m_snapshot = PowerSnapshot::empty();
+    FerrowPalette m_palette;
+};
+
+} // namespace ferrow

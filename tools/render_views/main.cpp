@@ -1,0 +1,93 @@
+// Renders the application's views offscreen into PNG files, for the README and for looking at
+// every state without a Mac: the popover for a notebook on its adapter, on battery, and a desktop,
+// in both appearances, at 1x and 2x.
+
+#include "app/app_services.h"
+#include "app/text_table.h"
+#include "platform/recorded/recorded_machine.h"
+#include "sources/power_sensor_reader.h"
+#include "views/dashboard_view.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QImage>
+#include <QPainter>
+#include <QTextStream>
+
+using namespace ferrow;
+
+namespace {
+
+std::optional<PowerSnapshot> readRecording(const QString &folder, QString *error)
+{
+    std::optional<Recording> recording = loadRecording(folder, error);
+    if (!recording)
+        return std::nullopt;
+    PowerSensorReader reader{std::make_unique<RecordedMachine>(std::move(*recording))};
+    reader.read(); // the chip baseline
+    return reader.read();
+}
+
+bool render(QWidget &widget, double scale, const QString &path)
+{
+    QImage image(widget.size() * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    widget.render(&painter);
+    painter.end();
+    return image.save(path);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(FERROW_VERSION));
+    installTextTable(application);
+    registerBrandFonts();
+
+    QTextStream err(stderr);
+    const QString fixtures = QStringLiteral(FERROW_SOURCE_DIR "/tests/fixtures/");
+    const QString output = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral(FERROW_SOURCE_DIR "/docs/images");
+    QDir().mkpath(output);
+
+    const struct {
+        const char *name;
+        const char *recording;
+    } states[] = {{"adapter", "notebook-charging-26"}, {"battery", "notebook-battery-27"}, {"desktop", "desktop-26"}};
+    int written = 0;
+    for (const auto &state : states) {
+        QString error;
+        const std::optional<PowerSnapshot> snapshot = readRecording(fixtures + QLatin1String(state.recording), &error);
+        if (!snapshot) {
+            err << "render_views: " << error << Qt::endl;
+            return 1;
+        }
+        for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            DashboardView dashboard;
+            dashboard.setFerrowPalette(FerrowPalette{scheme});
+            dashboard.setSnapshot(*snapshot);
+            dashboard.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+            dashboard.setShowPowerInMenuBar(true);
+            dashboard.setReduceMotion(true); // a still frame: the dots at their resting phases
+            dashboard.setAttribute(Qt::WA_DontShowOnScreen);
+            dashboard.show();
+            for (const double scale : {1.0, 2.0}) {
+                const QString path = QStringLiteral("%1/popover-%2-%3%4.png")
+                                         .arg(output, QLatin1String(state.name), scheme == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light"),
+                                              scale > 1 ? QStringLiteral("@2x") : QString());
+                if (!render(dashboard, scale, path)) {
+                    err << "render_views: cannot write " << path << Qt::endl;
+                    return 1;
+                }
+                ++written;
+            }
+        }
+    }
+    QTextStream(stdout) << "render_views: wrote " << written << " images to " << output << Qt::endl;
+    return 0;
+}
