@@ -9,6 +9,7 @@ namespace ferrow {
 
 // A coloured instrument tile: a code ("VBUS"), a large five-decimal figure and its unit.
 class MeterCard : public QWidget {
+    Q_OBJECT
 public:
     MeterCard(QString code, QString unit, QColor color, QWidget *parent = nullptr);
 

@@ -5,7 +5,6 @@
 #include "app/app_services.h"
 #include "app/text_table.h"
 #include "platform/recorded/recorded_machine.h"
-#include "sources/power_sensor_reader.h"
 #include "views/dashboard_view.h"
 
 #include <QApplication>
@@ -17,16 +16,6 @@
 using namespace ferrow;
 
 namespace {
-
-std::optional<PowerSnapshot> readRecording(const QString &folder, QString *error)
-{
-    std::optional<Recording> recording = loadRecording(folder, error);
-    if (!recording)
-        return std::nullopt;
-    PowerSensorReader reader{std::make_unique<RecordedMachine>(std::move(*recording))};
-    reader.read(); // the chip baseline
-    return reader.read();
-}
 
 bool render(QWidget &widget, double scale, const QString &path)
 {
@@ -62,7 +51,7 @@ int main(int argc, char *argv[])
     int written = 0;
     for (const auto &state : states) {
         QString error;
-        const std::optional<PowerSnapshot> snapshot = readRecording(fixtures + QLatin1String(state.recording), &error);
+        const std::optional<PowerSnapshot> snapshot = readRecordedSnapshot(fixtures + QLatin1String(state.recording), &error);
         if (!snapshot) {
             err << "render_views: " << error << Qt::endl;
             return 1;

@@ -1,6 +1,7 @@
 #include "platform/recorded/recorded_machine.h"
 
 #include "platform/recorded/property_list_parser.h"
+#include "sources/power_sensor_reader.h"
 #include "sources/stats_smc.h"
 
 #include <QDir>
@@ -273,6 +274,16 @@ std::optional<Recording> loadRecording(const QString &folder, QString *error)
         recording.battery = *dictionary;
     }
     return recording;
+}
+
+std::optional<PowerSnapshot> readRecordedSnapshot(const QString &folder, QString *error)
+{
+    std::optional<Recording> recording = loadRecording(folder, error);
+    if (!recording)
+        return std::nullopt;
+    PowerSensorReader reader{std::make_unique<RecordedMachine>(std::move(*recording))};
+    reader.read();
+    return reader.read();
 }
 
 RecordedMachine::RecordedMachine(Recording recording)

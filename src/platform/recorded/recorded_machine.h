@@ -32,6 +32,9 @@ struct Recording {
 // On failure the message names the file, the place in it and the problem.
 std::optional<Recording> loadRecording(const QString &folder, QString *error);
 
+// One reading of a recorded machine, taken after the reading that sets the chip baseline.
+std::optional<PowerSnapshot> readRecordedSnapshot(const QString &folder, QString *error);
+
 // Replays a recording: the SMC, the battery service, power sources and profiler answer as recorded;
 // each chip sample steps to the next energy frame, whose uptime the clock then reports.
 class RecordedMachine final : public MachinePlatform, RegistryPropertySource, PowerSourceList, CommandRunner, SystemInfo, Clock {

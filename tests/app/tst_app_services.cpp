@@ -1,0 +1,203 @@
+#include "app/app_services.h"
+#include "app/app_settings.h"
+#include "app/menu_bar_label.h"
+#include "app/popover_placement.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace ferrow;
+
+class AppServicesTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void versionString_data()
+    {
+        QTest::addColumn<QVariant>("shortVersion");
+        QTest::addColumn<QVariant>("build");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("short version") << QVariant(QStringLiteral("1.2.0")) << QVariant(QStringLiteral("7")) << QStringLiteral("1.2.0");
+        QTest::newRow("empty short version, build 42") << QVariant(QString()) << QVariant(QStringLiteral("42")) << QStringLiteral("42");
+        QTest::newRow("empty build counts") << QVariant() << QVariant(QString()) << QString();
+        QTest::newRow("neither") << QVariant() << QVariant() << QStringLiteral("\u2014");
+        QTest::newRow("empty short version only") << QVariant(QString()) << QVariant() << QStringLiteral("\u2014");
+    }
+
+    void versionString()
+    {
+        QFETCH(QVariant, shortVersion);
+        QFETCH(QVariant, build);
+        QFETCH(QString, shown);
+        const auto text = [](const QVariant &v) { return v.isValid() ? std::optional(v.toString()) : std::nullopt; };
+        QCOMPARE(appVersionString(text(shortVersion), text(build)), shown);
+    }
+
+    void autostartEntryRoundTrip()
+    {
+        QTemporaryDir home;
+        XdgAutostartLoginItem item(home.filePath(QStringLiteral("config/autostart")), QStringLiteral("/opt/Ferrow \"beta\"/ferrow"));
+        QVERIFY(!item.isEnabled());
+        QVERIFY(item.setEnabled(true));
+        QVERIFY(item.isEnabled());
+        QFile entry(item.entryPath());
+        QVERIFY(entry.open(QIODevice::ReadOnly));
+        const QByteArray text = entry.readAll();
+        QVERIFY(text.startsWith("[Desktop Entry]\n"));
+        QVERIFY2(text.contains("Exec=\"/opt/Ferrow \\\"beta\\\"/ferrow\"\n"), text.constData());
+        QVERIFY(item.setEnabled(false));
+        QVERIFY(!item.isEnabled());
+        QVERIFY(item.setEnabled(false)); // already off: nothing to do, no failure
+    }
+
+    void autostartEntrySwitchedOffByTheDesktop()
+    {
+        QTemporaryDir home;
+        XdgAutostartLoginItem item(home.path());
+        QVERIFY(item.setEnabled(true));
+        QFile entry(item.entryPath());
+        QVERIFY(entry.open(QIODevice::Append));
+        entry.write("Hidden=true\n");
+        entry.close();
+        QVERIFY(!item.isEnabled());
+    }
+
+    void autostartRefusedReportsFailure()
+    {
+        QTemporaryDir home;
+        QFile blocker(home.filePath(QStringLiteral("autostart")));
+        QVERIFY(blocker.open(QIODevice::WriteOnly)); // a file where the folder should be
+        blocker.close();
+        XdgAutostartLoginItem item(blocker.fileName());
+        QVERIFY(!item.setEnabled(true));
+        QVERIFY(!item.isEnabled());
+    }
+
+    void popoverPosition_data()
+    {
+        QTest::addColumn<QRect>("trayItem");
+        QTest::addColumn<QRect>("screen");
+        QTest::addColumn<QPoint>("cursor");
+        QTest::addColumn<QPoint>("position");
+        const QRect screen(0, 24, 1920, 1056); // a top panel of 24 pixels
+        QTest::newRow("under an item in a top panel") << QRect(900, 0, 24, 24) << screen << QPoint() << QPoint(696, 28);
+        QTest::newRow("kept inside the right edge") << QRect(1890, 0, 24, 24) << screen << QPoint() << QPoint(1486, 28);
+        QTest::newRow("over an item in a bottom panel") << QRect(60, 1052, 24, 28) << QRect(0, 0, 1920, 1050) << QPoint()
+                                                        << QPoint(4, 486);
+        QTest::newRow("no tray geometry: at the cursor") << QRect() << screen << QPoint(1000, 500) << QPoint(785, 505);
+        QTest::newRow("second screen") << QRect(2900, 0, 24, 24) << QRect(1920, 24, 1280, 1000) << QPoint() << QPoint(2696, 28);
+    }
+
+    void popoverPosition()
+    {
+        QFETCH(QRect, trayItem);
+        QFETCH(QRect, screen);
+        QFETCH(QPoint, cursor);
+        QFETCH(QPoint, position);
+        QCOMPARE(ferrow::popoverPosition(trayItem, QSize(430, 560), screen, cursor), position);
+    }
+
+    void menuBarFigure_data()
+    {
+        QTest::addColumn<bool>("hasBattery");
+        QTest::addColumn<bool>("external");
+        QTest::addColumn<bool>("dataAvailable");
+        QTest::addColumn<double>("dcPowerW");
+        QTest::addColumn<double>("flowW");
+        QTest::addColumn<QString>("figure");
+        QTest::addColumn<bool>("bolt");
+        QTest::newRow("charging: the adapter's power") << true << true << true << 61.24 << 30.0 << QStringLiteral("61.2 W") << true;
+        QTest::newRow("on battery: the signed flow") << true << false << true << 0.0 << -8.44 << QStringLiteral("-8.4 W") << false;
+        QTest::newRow("tiny flow reads 0.0") << true << false << true << 0.0 << -0.04 << QStringLiteral("0.0 W") << false;
+        QTest::newRow("on battery, no telemetry") << true << false << false << 0.0 << -8.0 << QStringLiteral("\u2014 W") << false;
+        QTest::newRow("on adapter, no telemetry") << true << true << false << 45.0 << 0.0 << QStringLiteral("45.0 W") << true;
+        QTest::newRow("desktop") << false << true << true << 35.0 << 0.0 << QStringLiteral("35.0 W") << true;
+        QTest::newRow("before the first reading") << false << false << false << 0.0 << 0.0 << QStringLiteral("0.0 W") << false;
+    }
+
+    void menuBarFigure()
+    {
+        QFETCH(bool, hasBattery);
+        QFETCH(bool, external);
+        QFETCH(bool, dataAvailable);
+        QFETCH(double, dcPowerW);
+        QFETCH(double, flowW);
+        QFETCH(QString, figure);
+        QFETCH(bool, bolt);
+        PowerSnapshot s;
+        s.hasBattery = hasBattery;
+        s.isExternalConnected = external;
+        s.isDataAvailable = dataAvailable;
+        s.dcPowerW = dcPowerW;
+        s.batteryFlowW = flowW;
+        QCOMPARE(menuBarFigureText(s), figure);
+        QCOMPARE(menuBarGlyph(s) == Glyph::bolt, bolt);
+    }
+
+    void trayIconFigure_data()
+    {
+        QTest::addColumn<QVariant>("powerW");
+        QTest::addColumn<QString>("figure");
+        QTest::newRow("whole watts from 10") << QVariant(61.24) << QStringLiteral("61");
+        QTest::newRow("a decimal below 10") << QVariant(8.44) << QStringLiteral("8.4");
+        QTest::newRow("negative") << QVariant(-8.44) << QStringLiteral("-8.4");
+        QTest::newRow("rounds up into whole watts") << QVariant(9.96) << QStringLiteral("10");
+        QTest::newRow("absent") << QVariant() << QStringLiteral("\u2014");
+    }
+
+    void trayIconFigure()
+    {
+        QFETCH(QVariant, powerW);
+        QFETCH(QString, figure);
+        QCOMPARE(ferrow::trayIconFigure(powerW.isValid() ? std::optional(powerW.toDouble()) : std::nullopt), figure);
+    }
+
+    void trayIconIsDrawnAtEverySize()
+    {
+        PowerSnapshot s;
+        s.isExternalConnected = true;
+        s.dcPowerW = 61.2;
+        for (const bool showPower : {true, false}) {
+            const QIcon icon = renderTrayIcon(s, showPower);
+            QCOMPARE(icon.availableSizes().size(), 6);
+            const QImage image = icon.pixmap(QSize(32, 32)).toImage();
+            bool drawn = false;
+            for (int y = 0; y < image.height() && !drawn; ++y)
+                for (int x = 0; x < image.width() && !drawn; ++x)
+                    drawn = qAlpha(image.pixel(x, y)) > 200;
+            QVERIFY(drawn);
+        }
+    }
+
+    void settingsAreReadDefensively_data()
+    {
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<bool>("read");
+        QTest::newRow("missing: default") << QVariant() << true;
+        QTest::newRow("false") << QVariant(false) << false;
+        QTest::newRow("text false") << QVariant(QStringLiteral("false")) << false;
+        QTest::newRow("text 1") << QVariant(QStringLiteral("1")) << true;
+        QTest::newRow("number 0") << QVariant(0) << false;
+        QTest::newRow("garbage: default") << QVariant(QStringLiteral("maybe")) << true;
+        QTest::newRow("binary garbage: default") << QVariant(QByteArray("\x00\xff", 2)) << true;
+    }
+
+    void settingsAreReadDefensively()
+    {
+        QFETCH(QVariant, stored);
+        QFETCH(bool, read);
+        QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("settings.ini"));
+        {
+            QSettings writer(file, QSettings::IniFormat);
+            if (stored.isValid())
+                writer.setValue(AppSetting::showPowerInMenuBar, stored);
+        }
+        const QSettings reader(file, QSettings::IniFormat);
+        QCOMPARE(readBoolSetting(reader, AppSetting::showPowerInMenuBar, true), read);
+    }
+};
+
+QTEST_MAIN(AppServicesTest)
+#include "tst_app_services.moc"

@@ -1,0 +1,280 @@
+#include "app/text_table.h"
+#include "model/localized_text.h"
+#include "views/battery_status_model.h"
+#include "views/dashboard_model.h"
+#include "views/ferrow_palette.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+#include <limits>
+
+using namespace ferrow;
+
+Q_DECLARE_METATYPE(ferrow::PowerSnapshot)
+
+namespace {
+
+PowerSnapshot notebook(bool external, bool charging, double flowW)
+{
+    PowerSnapshot s;
+    s.hasBattery = true;
+    s.isExternalConnected = external;
+    s.isCharging = charging;
+    s.isDataAvailable = true;
+    s.batteryFlowW = flowW;
+    s.batteryChargePowerW = external && flowW > 0 ? flowW : 0.0;
+    s.dcVoltageV = 20.0;
+    s.dcCurrentA = 1.5;
+    s.dcPowerW = 30.0;
+    s.batteryVoltageV = 12.0;
+    s.batteryRailVoltageV = 12.5;
+    s.batteryCurrentA = 1.5;
+    s.cycleCount = 143;
+    return s;
+}
+
+QString dash()
+{
+    return QStringLiteral("\u2014");
+}
+
+} // namespace
+
+class ViewModelsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(installTextTable(*QCoreApplication::instance())); }
+
+    void paletteColours_data()
+    {
+        QTest::addColumn<int>("role");
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<QColor>("expected");
+        const auto rgba = [](int r, int g, int b, double a) {
+            QColor c(r, g, b);
+            c.setAlphaF(static_cast<float>(a));
+            return c;
+        };
+        const struct {
+            const char *name;
+            ColorRole role;
+            QColor dark, light;
+        } rows[] = {
+            {"primaryText", ColorRole::primaryText, QColor(245, 245, 247), QColor(29, 29, 31)},
+            {"secondaryText", ColorRole::secondaryText, rgba(235, 235, 245, 0.62), rgba(60, 60, 67, 0.67)},
+            {"tertiaryText", ColorRole::tertiaryText, rgba(235, 235, 245, 0.34), rgba(60, 60, 67, 0.38)},
+            {"separator", ColorRole::separator, rgba(84, 84, 88, 0.56), rgba(60, 60, 67, 0.16)},
+            {"accent", ColorRole::accent, QColor(10, 132, 255), QColor(0, 122, 255)},
+            {"positive", ColorRole::positive, QColor(50, 215, 75), QColor(40, 167, 69)},
+            {"dischargePink", ColorRole::dischargePink, QColor(241, 169, 184), QColor(241, 169, 184)},
+            {"liveGreen", ColorRole::liveGreen, QColor(52, 199, 89), QColor(52, 199, 89)},
+        };
+        for (const auto &row : rows) {
+            QTest::addRow("%s dark", row.name) << int(row.role) << true << row.dark;
+            QTest::addRow("%s light", row.name) << int(row.role) << false << row.light;
+        }
+    }
+
+    void paletteColours()
+    {
+        QFETCH(int, role);
+        QFETCH(bool, dark);
+        QFETCH(QColor, expected);
+        const FerrowPalette palette{dark ? ColorScheme::dark : ColorScheme::light};
+        const QColor actual = palette.color(static_cast<ColorRole>(role));
+        QCOMPARE(actual.rgb(), expected.rgb());
+        QVERIFY(qAbs(actual.alphaF() - expected.alphaF()) < 0.005);
+    }
+
+    void cardTintByScheme()
+    {
+        QCOMPARE(FerrowPalette{ColorScheme::dark}.cardTint().rgb(), QColor(255, 255, 255).rgb());
+        QVERIFY(qAbs(FerrowPalette{ColorScheme::dark}.cardTint().alphaF() - 0.11) < 0.005);
+        QCOMPARE(FerrowPalette{ColorScheme::light}.cardTint().rgb(), QColor(0, 0, 0).rgb());
+        QVERIFY(qAbs(FerrowPalette{ColorScheme::light}.cardTint().alphaF() - 0.075) < 0.005);
+    }
+
+    // Rows as "label=value@colour" lines, so a whole card compares at once.
+    void telemetryRows_data()
+    {
+        QTest::addColumn<PowerSnapshot>("snapshot");
+        QTest::addColumn<QStringList>("rows");
+        const auto text = [](const char *key) { return localizedText(key); };
+
+        PowerSnapshot desktop;
+        desktop.isExternalConnected = true;
+        desktop.systemPowerW = 31.24;
+        desktop.cycleCount = 5; // ignored without a battery
+        QTest::newRow("desktop") << desktop
+                                 << QStringList{text("power.system_total") + QStringLiteral("=31.2 W@0"),
+                                                text("device.power_source") + u'=' + text("status.external_power") + QStringLiteral("@5"),
+                                                text("battery.title") + u'=' + text("battery.not_detected") + QStringLiteral("@1"),
+                                                text("device.sample_rate") + QStringLiteral("=1 Hz@4")};
+
+        QTest::newRow("on adapter: pack figures, plus sign") << notebook(true, true, 18.0)
+            << QStringList{text("battery.cycle_count") + QStringLiteral("=143@0"), text("battery.voltage") + QStringLiteral("=12.00 V@0"),
+                           text("battery.current") + QStringLiteral("=+1.500 A@5"), text("battery.charge_status") + u'=' + text("status.charging") + QStringLiteral("@4")};
+        QTest::newRow("flow -0.05 exactly is still on adapter") << notebook(true, false, -0.05)
+            << QStringList{text("battery.cycle_count") + QStringLiteral("=143@0"), text("battery.voltage") + QStringLiteral("=12.00 V@0"),
+                           text("battery.current") + QStringLiteral("=+1.500 A@5"),
+                           text("battery.charge_status") + u'=' + text("status.power_connected") + QStringLiteral("@4")};
+        QTest::newRow("flow -0.06: battery-powered, rail voltage, pink") << notebook(true, false, -0.06)
+            << QStringList{text("battery.cycle_count") + QStringLiteral("=143@0"), text("battery.voltage") + QStringLiteral("=12.50 V@0"),
+                           text("battery.current") + QStringLiteral("=-0.005 A@6"),
+                           text("battery.charge_status") + u'=' + text("status.power_connected") + QStringLiteral("@4")};
+
+        PowerSnapshot zero = notebook(true, false, 0.0);
+        zero.batteryCurrentA = 0.0;
+        zero.cycleCount.reset();
+        zero.batteryVoltageV.reset();
+        QTest::newRow("zero current has no sign, absent shows the dash") << zero
+            << QStringList{text("battery.cycle_count") + u'=' + dash() + QStringLiteral("@0"), text("battery.voltage") + u'=' + dash() + QStringLiteral("@0"),
+                           text("battery.current") + QStringLiteral("=0.000 A@5"),
+                           text("battery.charge_status") + u'=' + text("status.power_connected") + QStringLiteral("@4")};
+
+        PowerSnapshot zeroVolts = notebook(false, false, -6.0);
+        zeroVolts.batteryRailVoltageV = 0.0;
+        QTest::newRow("a 0 V divisor shows the dash, not inf") << zeroVolts
+            << QStringList{text("battery.cycle_count") + QStringLiteral("=143@0"), text("battery.voltage") + QStringLiteral("=0.00 V@0"),
+                           text("battery.current") + u'=' + dash() + QStringLiteral("@6"),
+                           text("battery.charge_status") + u'=' + text("status.on_battery") + QStringLiteral("@4")};
+    }
+
+    void telemetryRows()
+    {
+        QFETCH(PowerSnapshot, snapshot);
+        QFETCH(QStringList, rows);
+        QStringList actual;
+        int separators = 0;
+        for (const TelemetryRowModel &row : ferrow::telemetryRows(snapshot)) {
+            actual << QStringLiteral("%1=%2@%3").arg(row.label, row.value).arg(int(row.valueColor));
+            separators += row.showsSeparator;
+        }
+        QCOMPARE(actual, rows);
+        QCOMPARE(separators, 3);
+    }
+
+    void statusAndCaption_data()
+    {
+        QTest::addColumn<PowerSnapshot>("snapshot");
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<int>("dot");
+        QTest::addColumn<QString>("caption");
+        QTest::addColumn<QVariant>("voltage");
+
+        PowerSnapshot waiting = notebook(false, false, -5.0);
+        waiting.isDataAvailable = false;
+        PowerSnapshot packOnly = notebook(false, false, -5.0);
+        packOnly.batteryRailVoltageV.reset();
+        PowerSnapshot noVoltage = packOnly;
+        noVoltage.batteryVoltageV.reset();
+        QTest::newRow("live on adapter") << notebook(true, true, 5.0) << localizedText("status.live") << int(ColorRole::liveGreen)
+                                         << QStringLiteral("DC IN") << QVariant(20.0);
+        QTest::newRow("waiting on battery") << waiting << localizedText("status.waiting") << int(ColorRole::orange)
+                                            << localizedText("power.battery_discharge") << QVariant(12.5);
+        QTest::newRow("battery without rail voltage") << packOnly << localizedText("status.live") << int(ColorRole::liveGreen)
+                                                      << localizedText("power.battery_discharge") << QVariant(12.0);
+        QTest::newRow("battery without any voltage") << noVoltage << localizedText("status.live") << int(ColorRole::liveGreen)
+                                                     << localizedText("power.battery_discharge") << QVariant();
+    }
+
+    void statusAndCaption()
+    {
+        QFETCH(PowerSnapshot, snapshot);
+        QFETCH(QString, status);
+        QFETCH(int, dot);
+        QFETCH(QString, caption);
+        QFETCH(QVariant, voltage);
+        QCOMPARE(statusIndicator(snapshot).text, status);
+        QCOMPARE(int(statusIndicator(snapshot).dotColor), dot);
+        QCOMPARE(meterCaption(snapshot), caption);
+        const std::optional<double> volts = displayVoltageV(snapshot);
+        QCOMPARE(volts.has_value(), voltage.isValid());
+        if (volts)
+            QCOMPARE(*volts, voltage.toDouble());
+    }
+
+    void meterValueText_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("large");
+        QTest::addColumn<QString>("small");
+        QTest::newRow("zero") << QVariant(0.0) << QStringLiteral("0.000") << QStringLiteral("00");
+        QTest::newRow("20.12345") << QVariant(20.12345) << QStringLiteral("20.123") << QStringLiteral("45");
+        QTest::newRow("negative") << QVariant(-2.5) << QStringLiteral("-2.500") << QStringLiteral("00");
+        QTest::newRow("rounds at five decimals") << QVariant(1.999999) << QStringLiteral("2.000") << QStringLiteral("00");
+        QTest::newRow("absent") << QVariant() << dash() << QString();
+        QTest::newRow("infinite") << QVariant(std::numeric_limits<double>::infinity()) << dash() << QString();
+    }
+
+    void meterValueText()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(QString, large);
+        QFETCH(QString, small);
+        const MeterValueText text = ferrow::meterValueText(value.isValid() ? std::optional(value.toDouble()) : std::nullopt);
+        QCOMPARE(text.large, large);
+        QCOMPARE(text.small, small);
+    }
+
+    void meterAccessibleText()
+    {
+        QCOMPARE(ferrow::meterAccessibleText(QStringLiteral("VBUS"), 20.12345, QStringLiteral("V")), QStringLiteral("VBUS 20.12345 V"));
+        QCOMPARE(ferrow::meterAccessibleText(QStringLiteral("PWR"), std::nullopt, QStringLiteral("W")), QStringLiteral("PWR \u2014 W"));
+    }
+
+    void healthAndTemperature_data()
+    {
+        QTest::addColumn<QVariant>("percent");
+        QTest::addColumn<QString>("condition");
+        QTest::addColumn<QString>("health");
+        QTest::newRow("absent") << QVariant() << QStringLiteral("good") << dash();
+        QTest::newRow("no condition") << QVariant(92) << QString() << QStringLiteral("92%");
+        QTest::newRow("with condition") << QVariant(92) << QStringLiteral("good")
+                                        << localizedText("battery.health_value").arg(92).arg(localizedText("battery.health.good"));
+    }
+
+    void healthAndTemperature()
+    {
+        QFETCH(QVariant, percent);
+        QFETCH(QString, condition);
+        QFETCH(QString, health);
+        PowerSnapshot s;
+        if (percent.isValid())
+            s.batteryHealthPercent = percent.toLongLong();
+        s.batteryHealthCondition = batteryHealthConditionFromRaw(condition);
+        QCOMPARE(batteryHealthText(s), health);
+    }
+
+    void temperatureText()
+    {
+        QCOMPARE(batteryTemperatureText(31.26), QStringLiteral("31.3 \u00B0C"));
+        QCOMPARE(batteryTemperatureText(-4.0), QStringLiteral("-4.0 \u00B0C"));
+        QCOMPARE(batteryTemperatureText(std::nullopt), dash());
+    }
+
+    void segmentFills_data()
+    {
+        QTest::addColumn<qint64>("level");
+        QTest::addColumn<QList<double>>("fills");
+        QTest::newRow("45 %") << qint64(45) << QList<double>{1, 1, 1, 1, 0.5, 0, 0, 0, 0, 0};
+        QTest::newRow("100 %") << qint64(100) << QList<double>(10, 1.0);
+        QTest::newRow("above 100 %") << qint64(150) << QList<double>(10, 1.0);
+        QTest::newRow("0 %") << qint64(0) << QList<double>(10, 0.0);
+        QTest::newRow("below 0 %") << qint64(-10) << QList<double>(10, 0.0);
+        QTest::newRow("1 %") << qint64(1) << QList<double>{0.1, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+    }
+
+    void segmentFills()
+    {
+        QFETCH(qint64, level);
+        QFETCH(QList<double>, fills);
+        for (int i = 0; i < 10; ++i)
+            QVERIFY2(qAbs(segmentFillFraction(level, i) - fills[i]) < 1e-12, qPrintable(QString::number(i)));
+    }
+};
+
+QTEST_GUILESS_MAIN(ViewModelsTest)
+#include "tst_view_models.moc"
