@@ -10,6 +10,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
+
 namespace ferrow {
 namespace {
 
@@ -55,7 +57,7 @@ PowerFlowView::PowerFlowView(QWidget *parent)
 {
     setFixedHeight(24 + kRowHeight + 16);
     m_frameTimer.setInterval(33); // at most 30 frames a second
-    connect(&m_frameTimer, &QTimer::timeout, this, qOverload<>(&QWidget::update));
+    connect(&m_frameTimer, &QTimer::timeout, this, [this] { update(connectorRect().toAlignedRect().adjusted(-8, -8, 8, 8)); });
 }
 
 void PowerFlowView::setReduceMotion(bool reduceMotion)
@@ -85,13 +87,12 @@ void PowerFlowView::updateTimer()
         m_frameTimer.stop();
 }
 
-void PowerFlowView::paintConnector(QPainter &painter, const QRectF &rect, const PowerSnapshot &snapshot, double phase)
+void PowerFlowView::paintConnectorRoutes(QPainter &painter, const QRectF &rect, const PowerSnapshot &snapshot)
 {
-    const FlowInputs inputs = flowInputs(snapshot);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(rect.topLeft());
-    for (const FlowStroke &stroke : flowStrokes(flowCase(inputs), rect.size())) {
+    for (const FlowStroke &stroke : flowStrokes(flowCase(flowInputs(snapshot)), rect.size())) {
         QPainterPath path(stroke.start);
         if (stroke.isCurve)
             path.cubicTo(stroke.control1, stroke.control2, stroke.end);
@@ -102,8 +103,16 @@ void PowerFlowView::paintConnector(QPainter &painter, const QRectF &rect, const 
         gradient.setColorAt(1, stroke.endColor);
         strokeWithGlow(painter, path, gradient, stroke.endColor);
     }
+    painter.restore();
+}
+
+void PowerFlowView::paintConnectorDots(QPainter &painter, const QRectF &rect, const PowerSnapshot &snapshot, double phase)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(rect.topLeft());
     painter.setPen(Qt::NoPen);
-    for (const FlowDot &dot : flowDots(inputs, rect.size(), phase)) {
+    for (const FlowDot &dot : flowDots(flowInputs(snapshot), rect.size(), phase)) {
         QColor halo = dot.color;
         halo.setAlphaF(0.28f);
         painter.setBrush(halo);
@@ -116,9 +125,27 @@ void PowerFlowView::paintConnector(QPainter &painter, const QRectF &rect, const 
     painter.restore();
 }
 
-void PowerFlowView::paintEvent(QPaintEvent *)
+QRectF PowerFlowView::connectorRect() const
 {
-    QPainter painter(this);
+    const QRectF area = QRectF(rect()).adjusted(8, 4, -8, -6);
+    return {area.left() + kNodeWidth, area.top() + 22, area.width() - 2 * kNodeWidth, kRowHeight};
+}
+
+QString PowerFlowView::staticLayerKey() const
+{
+    const PowerSnapshot &s = snapshot();
+    const FlowNodeValue battery = batteryNodeValue(s);
+    return QStringLiteral("%1x%2|%3|%4|%5|%6|%7|%8|%9")
+        .arg(width())
+        .arg(height())
+        .arg(int(ferrowPalette().scheme))
+        .arg(int(flowCase(flowInputs(s))))
+        .arg(s.powerSourceText(), formatFlowValue(s.dcPowerW), formatFlowValue(s.systemPowerW), flowNodeValueText(battery))
+        .arg(int(battery.iconColor));
+}
+
+void PowerFlowView::paintStaticLayer(QPainter &painter)
+{
     const FerrowPalette &palette = ferrowPalette();
     const PowerSnapshot &s = snapshot();
     const QRectF area = QRectF(rect()).adjusted(8, 4, -8, -6);
@@ -147,10 +174,26 @@ void PowerFlowView::paintEvent(QPaintEvent *)
         const QRectF macNode(rightColumn.left(), row.center().y() - kNodeHeight / 2, kNodeWidth, kNodeHeight);
         paintNode(painter, macNode, Glyph::desktop, localizedText("power.mac_system"), systemText, FixedColor::macBlue, palette);
     }
+    paintConnectorRoutes(painter, connectorRect(), s);
+}
 
-    const QRectF connector(adapterNode.right(), row.top(), rightColumn.left() - adapterNode.right(), row.height());
+void PowerFlowView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    // The scale of what is really painted on: an image rendered at 2x differs from the widget's own.
+    const qreal scale = std::max(painter.device()->devicePixelRatioF(), painter.deviceTransform().m11());
+    const QString key = staticLayerKey() + QStringLiteral("|%1").arg(scale);
+    if (key != m_staticLayerKey) {
+        m_staticLayer = QPixmap(size() * scale);
+        m_staticLayer.setDevicePixelRatio(scale);
+        m_staticLayer.fill(Qt::transparent);
+        QPainter layer(&m_staticLayer);
+        paintStaticLayer(layer);
+        m_staticLayerKey = key;
+    }
+    painter.drawPixmap(0, 0, m_staticLayer);
     const double seconds = static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
-    paintConnector(painter, connector, s, flowPhase(seconds, m_reduceMotion));
+    paintConnectorDots(painter, connectorRect(), snapshot(), flowPhase(seconds, m_reduceMotion));
 }
 
 } // namespace ferrow

@@ -2,6 +2,7 @@
 
 #include "views/snapshot_view.h"
 
+#include <QPixmap>
 #include <QTimer>
 
 namespace ferrow {
@@ -17,8 +18,10 @@ public:
     bool isAnimating() const { return m_frameTimer.isActive(); }
     QSize sizeHint() const override { return {430, 116}; }
 
-    // Draws one frame of the connector at the given phase, into any painter (used by benchmarks too).
-    static void paintConnector(QPainter &painter, const QRectF &rect, const PowerSnapshot &snapshot, double phase);
+    // The connector's routes, and its dots at one phase; the view draws routes once a reading and
+    // dots every frame.
+    static void paintConnectorRoutes(QPainter &painter, const QRectF &rect, const PowerSnapshot &snapshot);
+    static void paintConnectorDots(QPainter &painter, const QRectF &rect, const PowerSnapshot &snapshot, double phase);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -27,9 +30,15 @@ protected:
 
 private:
     void updateTimer();
+    QRectF connectorRect() const;
+    QString staticLayerKey() const;
+    void paintStaticLayer(QPainter &painter);
 
     QTimer m_frameTimer;
     bool m_reduceMotion = false;
+    // Everything but the dots, redrawn only when what it shows changes.
+    QPixmap m_staticLayer;
+    QString m_staticLayerKey;
 };
 
 } // namespace ferrow
