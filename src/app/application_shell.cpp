@@ -8,6 +8,7 @@
 #include "monitor/sleep_wake_notifier.h"
 #include "sources/power_sensor_reader.h"
 #include "views/dashboard_view.h"
+#include "views/view_painting.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -55,6 +56,7 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
         notice->setObjectName(QStringLiteral("noTrayNotice"));
         notice->setWordWrap(true);
         notice->setContentsMargins(12, 8, 12, 8);
+        notice->setFont(uiFont(10));
         layout->addWidget(notice);
     }
     m_dashboard = new DashboardView;
