@@ -1,19 +1,18 @@
 #pragma once
 
-#include "platform/common/in_memory_key_value_store.h"
 #include "platform/common/in_memory_smc.h"
+#include "platform/common/self_contained_machine.h"
 #include "sources/platform_interfaces.h"
 
 namespace ferrow::testing {
 
 // A machine whose every source the test sets by hand.
-class FakeMachine final : public MachinePlatform, RegistryPropertySource, PowerSourceList, CommandRunner, SystemInfo, Clock {
+class FakeMachine final : public SelfContainedMachine, public Clock {
 public:
     InMemorySMC smc;
     std::optional<PropertyDictionary> battery;
     std::optional<PropertyList> powerSourceList;
     std::optional<CommandResult> profiler;
-    InMemoryKeyValueStore defaults;
     int osMajorVersion = 26;
     bool adapterDetails = false;
     WallTime time = WallTime() + std::chrono::hours(24 * 365 * 56);
@@ -21,11 +20,6 @@ public:
 
     std::unique_ptr<SMCUserClient> createSMCUserClient() override { return std::make_unique<InMemorySMCClient>(smc); }
     std::unique_ptr<EnergyReportSource> createEnergyReportSource() override { return nullptr; }
-    RegistryPropertySource &registry() override { return *this; }
-    PowerSourceList &powerSources() override { return *this; }
-    CommandRunner &commandRunner() override { return *this; }
-    KeyValueStore &preferences() override { return defaults; }
-    SystemInfo &systemInfo() override { return *this; }
     const Clock &clock() const override { return *this; }
 
     std::optional<PropertyDictionary> registryProperties(const QString &className) override

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/common/in_memory_key_value_store.h"
 #include "platform/common/in_memory_smc.h"
+#include "platform/common/self_contained_machine.h"
 #include "sources/platform_interfaces.h"
 
 #include <QString>
@@ -37,17 +37,12 @@ std::optional<PowerSnapshot> readRecordedSnapshot(const QString &folder, QString
 
 // Replays a recording: the SMC, the battery service, power sources and profiler answer as recorded;
 // each chip sample steps to the next energy frame, whose uptime the clock then reports.
-class RecordedMachine final : public MachinePlatform, RegistryPropertySource, PowerSourceList, CommandRunner, SystemInfo, Clock {
+class RecordedMachine final : public SelfContainedMachine, public Clock {
 public:
     explicit RecordedMachine(Recording recording);
 
     std::unique_ptr<SMCUserClient> createSMCUserClient() override;
     std::unique_ptr<EnergyReportSource> createEnergyReportSource() override;
-    RegistryPropertySource &registry() override { return *this; }
-    PowerSourceList &powerSources() override { return *this; }
-    CommandRunner &commandRunner() override { return *this; }
-    KeyValueStore &preferences() override { return m_preferences; }
-    SystemInfo &systemInfo() override { return *this; }
     const Clock &clock() const override { return *this; }
 
     std::optional<PropertyDictionary> registryProperties(const QString &className) override;
@@ -64,7 +59,6 @@ public:
 private:
     Recording m_recording;
     InMemorySMC m_smc;
-    InMemoryKeyValueStore m_preferences;
     std::optional<std::size_t> m_frame;
 };
 

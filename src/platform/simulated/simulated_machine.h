@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/common/in_memory_key_value_store.h"
 #include "platform/common/in_memory_smc.h"
+#include "platform/common/self_contained_machine.h"
 #include "platform/simulated/simulated_power_model.h"
 #include "platform/simulated/simulation_clock.h"
 #include "sources/platform_interfaces.h"
@@ -12,7 +12,7 @@ namespace ferrow {
 // SMC keys with their real types and byte layouts, the battery service's property dictionary,
 // energy-report channels, the power-source list and the system profiler's JSON. The model runs
 // on the machine's clock: real time for the application, manual time for tests.
-class SimulatedMachine final : public MachinePlatform, RegistryPropertySource, PowerSourceList, CommandRunner, SystemInfo {
+class SimulatedMachine final : public SelfContainedMachine {
 public:
     struct Options {
         SimulatedPowerModel::Kind kind = SimulatedPowerModel::Kind::notebook;
@@ -28,11 +28,6 @@ public:
 
     std::unique_ptr<SMCUserClient> createSMCUserClient() override;
     std::unique_ptr<EnergyReportSource> createEnergyReportSource() override;
-    RegistryPropertySource &registry() override { return *this; }
-    PowerSourceList &powerSources() override { return *this; }
-    CommandRunner &commandRunner() override { return *this; }
-    KeyValueStore &preferences() override { return m_preferences; }
-    SystemInfo &systemInfo() override { return *this; }
     const Clock &clock() const override { return m_clock; }
 
     std::optional<PropertyDictionary> registryProperties(const QString &className) override;
@@ -53,7 +48,6 @@ private:
     SimulationClock m_clock;
     SimulatedPowerModel m_model;
     InMemorySMC m_smc;
-    InMemoryKeyValueStore m_preferences;
 };
 
 } // namespace ferrow
