@@ -1,6 +1,8 @@
 #include "app/app_services.h"
 #include "platform/recorded/recorded_machine.h"
 #include "views/dashboard_view.h"
+#include "views/main_window_view.h"
+#include "views/power_history_chart.h"
 #include "views/power_flow_view.h"
 
 #include <QApplication>
@@ -70,6 +72,60 @@ void BM_PopoverPaint(benchmark::State &state)
     }
 }
 BENCHMARK(BM_PopoverPaint);
+
+// A full hour of readings a second apart, in runs of ten minutes.
+PowerHistory fullHour(WallTime end)
+{
+    PowerHistory history;
+    for (int second = 3600; second >= 1; --second) {
+        PowerSnapshot s;
+        s.isExternalConnected = true;
+        s.isDataAvailable = second % 600 != 0;
+        s.dcPowerW = 20 + 10 * std::sin(second / 30.0);
+        s.updatedAt = end - std::chrono::seconds(second);
+        history.append(s);
+    }
+    return history;
+}
+
+// The chart's once-a-second update with an hour of history in the 60-minute window: series
+// refilled in place, axes and statistics recomputed.
+void BM_ChartUpdateFullHour(benchmark::State &state)
+{
+    PowerHistoryChart chart;
+    chart.resize(800, 280);
+    chart.setMinutes(60);
+    WallTime end = std::chrono::system_clock::now();
+    PowerHistory history = fullHour(end);
+    for (auto _ : state) {
+        end += std::chrono::seconds(1);
+        PowerSnapshot next;
+        next.isExternalConnected = true;
+        next.isDataAvailable = true;
+        next.dcPowerW = 25;
+        next.updatedAt = end;
+        history.append(next);
+        chart.setHistory(history);
+    }
+}
+BENCHMARK(BM_ChartUpdateFullHour);
+
+// One repaint of the details window at its default size, chart with an hour of history included.
+void BM_MainWindowPaint(benchmark::State &state)
+{
+    MainWindowView window;
+    window.setSnapshot(recorded("notebook-charging-26"));
+    window.setHistory(fullHour(std::chrono::system_clock::now()));
+    window.resize(1040, 720);
+    const qreal scale = window.devicePixelRatioF();
+    QImage image(window.size() * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    for (auto _ : state) {
+        QPainter painter(&image);
+        window.render(&painter);
+    }
+}
+BENCHMARK(BM_MainWindowPaint)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

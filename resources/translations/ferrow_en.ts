@@ -199,5 +199,233 @@
         <source>Ferrow (simulated) · %1</source>
         <translation>Ferrow (simulated) · %1</translation>
     </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>Device details</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>Power, battery and cells at a glance</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>Refresh</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>Take a reading now</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>Updated at %1</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>Scroll to %1</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>Overview</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>Power</translation>
+    </message>
+    <message id="section.battery">
+        <source>Battery</source>
+        <translation>Battery</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>Cells</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>Device</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>Running on external power</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>Charging</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>This Mac has no battery; all power comes from its supply.</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>Adapter power is shared between the system and the battery.</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>The battery supplies the whole system.</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>Power distribution</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>DC input</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>Battery power</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>Power history</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>Time range</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>Waiting for readings</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>The chart fills in once a second.</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>Average</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>Peak</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>Watts</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>This Mac runs on external power only.</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>Design capacity</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>Full charge capacity</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>Nominal full charge capacity</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times">
+        <source>%L1 times</source>
+        <translation>%L1 times</translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>Cell voltages</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>No cell voltages</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>This battery does not report its cells.</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>Reported by the battery</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>Read from the system management controller</translation>
+    </message>
+    <message id="device.title">
+        <source>Device</source>
+        <translation>Device</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>Once a second</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>GPU power</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>Battery serial</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>Total operating time</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>Lifetime history</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1 d %L2 h</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>Highest battery temperature</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>Lowest battery temperature</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>Average battery temperature</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>Highest pack voltage</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>Lowest pack voltage</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>Highest charge current</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>Highest discharge current</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>Safety protection events</translation>
+    </message>
 </context>
 </TS>

@@ -8,6 +8,7 @@
 #include "monitor/sleep_wake_notifier.h"
 #include "sources/power_sensor_reader.h"
 #include "views/dashboard_view.h"
+#include "views/main_window_view.h"
 #include "views/view_painting.h"
 
 #include <QApplication>
@@ -72,7 +73,7 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     m_dashboard->setShowPowerInMenuBar(readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true));
     m_dashboard->setLaunchAtLogin(m_loginItem->isEnabled());
     m_dashboard->setReduceMotion(readBoolSetting(m_settings, AppSetting::reduceMotion, false));
-    m_dashboard->setDetailsAvailable(false); // the details window comes with the main window
+    connect(m_dashboard, &DashboardView::detailsRequested, this, &ApplicationShell::openMainWindow);
 
     connect(m_dashboard, &DashboardView::showPowerInMenuBarToggled, this, [this](bool shown) {
         m_settings.setValue(AppSetting::showPowerInMenuBar, shown);
@@ -83,6 +84,10 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
             m_dashboard->setLaunchAtLogin(m_loginItem->isEnabled());
     });
     connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, &ApplicationShell::showSnapshot);
+    connect(m_monitor.get(), &PowerMonitor::powerHistoryChanged, this, [this] {
+        if (m_mainWindow)
+            m_mainWindow->setHistory(m_monitor->powerHistory());
+    });
     applyAppearance();
 
     if (m_usesTray) {
@@ -122,9 +127,31 @@ FerrowPalette ApplicationShell::currentPalette() const
     return {systemColorScheme()};
 }
 
+MainWindowView *ApplicationShell::openMainWindow()
+{
+    if (!m_mainWindow) {
+        m_mainWindow = std::make_unique<MainWindowView>();
+        m_mainWindow->setFerrowPalette(currentPalette());
+        m_mainWindow->setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+        m_mainWindow->setSnapshot(m_monitor->snapshot());
+        m_mainWindow->setHistory(m_monitor->powerHistory());
+        m_mainWindow->installEventFilter(this);
+        connect(m_mainWindow.get(), &MainWindowView::refreshRequested, m_monitor.get(), &PowerMonitor::refresh);
+    }
+    if (m_usesTray)
+        m_window->hide();
+    m_mainWindow->show();
+    m_mainWindow->raise();
+    m_mainWindow->activateWindow();
+    m_monitor->start();
+    return m_mainWindow.get();
+}
+
 void ApplicationShell::applyAppearance()
 {
     const FerrowPalette palette = currentPalette();
+    if (m_mainWindow)
+        m_mainWindow->setFerrowPalette(palette);
     m_dashboard->setFerrowPalette(palette);
     QPalette windowPalette = m_window->palette();
     windowPalette.setColor(QPalette::Window, palette.panelBackground());
@@ -136,6 +163,8 @@ void ApplicationShell::applyAppearance()
 void ApplicationShell::showSnapshot()
 {
     m_dashboard->setSnapshot(m_monitor->snapshot());
+    if (m_mainWindow)
+        m_mainWindow->setSnapshot(m_monitor->snapshot());
     updateTrayItem();
 }
 
@@ -169,6 +198,9 @@ void ApplicationShell::togglePopover()
 
 bool ApplicationShell::eventFilter(QObject *watched, QEvent *event)
 {
+    if (m_mainWindow && watched == m_mainWindow.get()
+        && (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ThemeChange))
+        applyAppearance();
     if (watched == m_window.get()) {
         if (event->type() == QEvent::WindowDeactivate && m_usesTray)
             m_window->hide(); // a popover closes when it loses focus

@@ -17,6 +17,7 @@ class QWidget;
 namespace ferrow {
 
 class DashboardView;
+class MainWindowView;
 class PowerMonitor;
 class SleepWakeNotifier;
 
@@ -33,6 +34,8 @@ public:
     void start();
     DashboardView *dashboard() const { return m_dashboard; }
     QWidget *dashboardWindow() const { return m_window.get(); }
+    // The one details window, made on first use; opening it again brings the same window forward.
+    MainWindowView *openMainWindow();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -51,6 +54,7 @@ private:
     std::unique_ptr<PowerMonitor> m_monitor;
     std::unique_ptr<QWidget> m_window;
     DashboardView *m_dashboard = nullptr;
+    std::unique_ptr<MainWindowView> m_mainWindow;
     std::unique_ptr<QMenu> m_menu;
     QSystemTrayIcon *m_tray = nullptr;
     bool m_usesTray = false;

@@ -188,7 +188,6 @@ DashboardView::DashboardView(QWidget *parent)
     auto *details = new DetailsButton(&m_palette, this);
     details->setObjectName(QStringLiteral("details"));
     connect(details, &QAbstractButton::clicked, this, &DashboardView::detailsRequested);
-    m_detailsButton = details;
 
     m_launchAtLogin = new QCheckBox(localizedText("setting.launch_at_login"));
     m_launchAtLogin->setObjectName(QStringLiteral("launchAtLogin"));
@@ -290,11 +289,6 @@ void DashboardView::setShowPowerInMenuBar(bool shown)
 {
     const QSignalBlocker blocker(m_showPower);
     m_showPower->setChecked(shown);
-}
-
-void DashboardView::setDetailsAvailable(bool available)
-{
-    m_detailsButton->setEnabled(available);
 }
 
 void DashboardView::setReduceMotion(bool reduceMotion)

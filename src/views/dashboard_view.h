@@ -32,7 +32,6 @@ public:
     void setVersion(const QString &version);
     void setLaunchAtLogin(bool enabled);
     void setShowPowerInMenuBar(bool shown);
-    void setDetailsAvailable(bool available);
     void setReduceMotion(bool reduceMotion);
     PowerFlowView *flowView() const { return m_flow; }
 
@@ -57,7 +56,6 @@ private:
     PowerFlowView *m_flow;
     BatteryStatusView *m_battery;
     SnapshotView *m_telemetry;
-    QWidget *m_detailsButton;
     QCheckBox *m_launchAtLogin;
     QCheckBox *m_showPower;
     QLabel *m_version;

@@ -84,6 +84,55 @@ void paintGlyph(QPainter &painter, Glyph glyph, const QRectF &box, const QColor 
         painter.setBrush(Qt::NoBrush);
         painter.drawPolyline(QPolygonF{{0.36, 0.14}, {0.68, 0.50}, {0.36, 0.86}});
         break;
+    case Glyph::gauge:
+        painter.setPen(stroke);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawArc(QRectF(0.08, 0.14, 0.84, 0.84), 210 * 16, -240 * 16);
+        painter.drawLine(QPointF(0.5, 0.56), QPointF(0.70, 0.36));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawEllipse(QPointF(0.5, 0.56), 0.07, 0.07);
+        break;
+    case Glyph::grid:
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        for (const double x : {0.10, 0.54})
+            for (const double y : {0.10, 0.54})
+                painter.drawPath(rounded(x, y, 0.36, 0.36, 0.07));
+        break;
+    case Glyph::info:
+        painter.setPen(stroke);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(QRectF(0.08, 0.08, 0.84, 0.84));
+        painter.setPen(QPen(color, 0.10, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(QPointF(0.5, 0.46), QPointF(0.5, 0.72));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawEllipse(QPointF(0.5, 0.30), 0.06, 0.06);
+        break;
+    case Glyph::chart:
+        painter.setPen(stroke);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPolyline(QPolygonF{{0.10, 0.08}, {0.10, 0.90}, {0.94, 0.90}});
+        painter.drawPolyline(QPolygonF{{0.22, 0.70}, {0.42, 0.46}, {0.60, 0.60}, {0.88, 0.24}});
+        break;
+    case Glyph::nodes:
+        painter.setPen(QPen(color, 0.07, Qt::DashLine, Qt::RoundCap));
+        painter.drawPolygon(QPolygonF{{0.50, 0.18}, {0.18, 0.78}, {0.82, 0.78}});
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        for (const QPointF node : {QPointF(0.50, 0.18), QPointF(0.18, 0.78), QPointF(0.82, 0.78)})
+            painter.drawEllipse(node, 0.13, 0.13);
+        break;
+    case Glyph::refresh: {
+        painter.setPen(stroke);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawArc(QRectF(0.14, 0.14, 0.72, 0.72), 60 * 16, 280 * 16);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawPolygon(QPolygonF{{0.60, 0.02}, {0.86, 0.18}, {0.58, 0.32}});
+        break;
+    }
     }
     painter.restore();
 }

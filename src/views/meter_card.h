@@ -11,16 +11,24 @@ namespace ferrow {
 class MeterCard : public QWidget {
     Q_OBJECT
 public:
-    MeterCard(QString code, QString unit, QColor color, QWidget *parent = nullptr);
+    // The popover's tile, or the main window's larger branded card of the same construction.
+    enum class Size { compact, branded };
+    struct Metrics {
+        double height, radius, outlineAlpha, codeSize, codeTracking, codeLeft, codeTop, lineHeight, linePadding, minimumScale,
+            largeSize, smallSize, unitSize;
+    };
+
+    MeterCard(QString code, QString unit, QColor color, Size size = Size::compact, QWidget *parent = nullptr);
 
     void setValue(std::optional<double> value);
     std::optional<double> value() const { return m_value; }
-    QSize sizeHint() const override { return {130, 55}; }
+    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    Metrics m_metrics;
     QString m_code;
     QString m_unit;
     QColor m_color;

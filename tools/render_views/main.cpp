@@ -1,17 +1,24 @@
 // Renders the application's views offscreen into PNG files, for the README and for looking at
 // every state without a Mac: the popover for a notebook on its adapter, on battery, and a desktop,
-// in both appearances, at 1x and 2x.
+// in both appearances, at 1x and 2x; and the main window for a notebook and a desktop after
+// half an hour of simulated readings, at its top and scrolled to each section.
 
 #include "app/app_services.h"
 #include "app/text_table.h"
 #include "platform/recorded/recorded_machine.h"
+#include "model/power_history.h"
+#include "platform/simulated/simulated_machine.h"
+#include "sources/power_sensor_reader.h"
 #include "views/dashboard_view.h"
+#include "views/main_window_view.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QImage>
 #include <QPainter>
+#include <QEventLoop>
 #include <QTextStream>
+#include <QTimer>
 
 using namespace ferrow;
 
@@ -26,6 +33,65 @@ bool render(QWidget &widget, double scale, const QString &path)
     widget.render(&painter);
     painter.end();
     return image.save(path);
+}
+
+struct SimulatedRun {
+    PowerSnapshot snapshot;
+    PowerHistory history;
+};
+
+// Half an hour of readings in accelerated time, with a two-minute sleep ten minutes from the end.
+SimulatedRun simulate(SimulatedPowerModel::Kind kind)
+{
+    auto *machine = new SimulatedMachine({kind, 7, false, 27});
+    PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
+    SimulatedRun run;
+    for (int second = 0; second < 30 * 60; ++second) {
+        machine->simulationClock().advance(std::chrono::seconds(1));
+        if (second >= 18 * 60 && second < 20 * 60)
+            continue;
+        run.snapshot = reader.read();
+        run.history.append(run.snapshot);
+    }
+    return run;
+}
+
+void waitFor(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+int renderMainWindows(const QString &output, QTextStream &err)
+{
+    int written = 0;
+    for (const auto &[name, kind] : {std::pair{"notebook", SimulatedPowerModel::Kind::notebook}, std::pair{"desktop", SimulatedPowerModel::Kind::desktop}}) {
+        const SimulatedRun run = simulate(kind);
+        for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            MainWindowView window;
+            window.setAttribute(Qt::WA_DontShowOnScreen);
+            window.setFerrowPalette(FerrowPalette{scheme});
+            window.setSnapshot(run.snapshot);
+            window.setHistory(run.history);
+            window.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+            window.show();
+            waitFor(50);
+            for (const MainSection section : kMainSections) {
+                window.pickSection(section);
+                waitFor(420); // the scroll animation
+                const QString path = QStringLiteral("%1/main-%2-%3-%4.png")
+                                         .arg(output, QLatin1String(name), scheme == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light"),
+                                              QString::fromLatin1(sectionTitleKey(section)).section(u'.', 1));
+                if (!render(window, 1.0, path)) {
+                    err << "render_views: cannot write " << path << Qt::endl;
+                    return -1;
+                }
+                ++written;
+            }
+        }
+    }
+    return written;
 }
 
 } // namespace
@@ -77,6 +143,10 @@ int main(int argc, char *argv[])
             }
         }
     }
+    const int windows = renderMainWindows(output, err);
+    if (windows < 0)
+        return 1;
+    written += windows;
     QTextStream(stdout) << "render_views: wrote " << written << " images to " << output << Qt::endl;
     return 0;
 }

@@ -1,0 +1,660 @@
+#include "views/main_window_view.h"
+
+#include "model/localized_text.h"
+#include "views/brand_links.h"
+#include "views/dashboard_model.h"
+#include "views/glyphs.h"
+#include "views/meter_card.h"
+#include "views/power_history_chart.h"
+#include "views/snapshot_view.h"
+#include "views/view_painting.h"
+
+#include <QAbstractButton>
+#include <QDateTime>
+#include <QEasingCurve>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace ferrow {
+namespace {
+
+constexpr double kPanelPadding = 16;
+constexpr double kPanelHeader = 18;
+constexpr double kPanelSpacing = 14;
+constexpr double kRowHeight = 24;
+const QColor kSystemGreen(52, 199, 89);
+const QColor kCellsAccent(52, 167, 126);
+
+Glyph sectionGlyph(MainSection section)
+{
+    switch (section) {
+    case MainSection::overview:
+        return Glyph::gauge;
+    case MainSection::power:
+        return Glyph::bolt;
+    case MainSection::battery:
+        return Glyph::battery;
+    case MainSection::cells:
+        return Glyph::grid;
+    case MainSection::history:
+        return Glyph::info;
+    }
+    return Glyph::info;
+}
+
+QColor windowBackground(const FerrowPalette &palette)
+{
+    return palette.isDark() ? QColor(36, 36, 39) : QColor(246, 246, 248);
+}
+
+QString cssColor(const QColor &color)
+{
+    return color.name(QColor::HexArgb);
+}
+
+// A panel's rounded ground and its header (glyph and title in the accent colour); returns where
+// the content goes.
+QRectF paintNativePanel(QPainter &painter, const QRectF &rect, const QString &title, Glyph glyph, const QColor &accent,
+                        const FerrowPalette &palette)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPainterPath shape;
+    shape.addRoundedRect(rect.adjusted(0.25, 0.25, -0.25, -0.25), 14, 14);
+    painter.fillPath(shape, palette.isDark() ? QColor(255, 255, 255, 14) : QColor(255, 255, 255, 200));
+    QColor outline = palette.separator();
+    outline.setAlphaF(outline.alphaF() * 0.7f);
+    painter.setPen(QPen(outline, 0.5));
+    painter.drawPath(shape);
+    painter.restore();
+
+    const QRectF inner = rect.adjusted(kPanelPadding, kPanelPadding, -kPanelPadding, -kPanelPadding);
+    paintGlyph(painter, glyph, QRectF(inner.left(), inner.top() + 1, 16, 16), accent);
+    painter.setPen(accent);
+    drawFittedText(painter, QRectF(inner.left() + 22, inner.top(), inner.width() - 22, kPanelHeader), title, uiFont(13, QFont::DemiBold), 0.85,
+                   Qt::AlignLeft);
+    return inner.adjusted(0, kPanelHeader + kPanelSpacing, 0, 0);
+}
+
+double paintValueRows(QPainter &painter, double top, double left, double width, const std::vector<ValueRow> &rows,
+                      const FerrowPalette &palette)
+{
+    for (const ValueRow &row : rows) {
+        painter.setPen(palette.secondaryText());
+        drawFittedText(painter, QRectF(left, top, width * 0.55, kRowHeight), row.label, uiFont(12), 0.85, Qt::AlignLeft);
+        painter.setPen(palette.color(row.tint));
+        drawFittedText(painter, QRectF(left + width * 0.55, top, width * 0.45, kRowHeight), row.value, monospacedFont(12), 0.8, Qt::AlignRight);
+        top += kRowHeight;
+    }
+    return top;
+}
+
+void paintUnavailable(QPainter &painter, const QRectF &rect, const QString &title, const QString &description, const FerrowPalette &palette)
+{
+    const double middle = rect.center().y();
+    paintGlyph(painter, Glyph::battery, QRectF(rect.center().x() - 16, middle - 40, 32, 28), palette.secondaryText(), 0.0);
+    painter.setPen(palette.primaryText());
+    drawFittedText(painter, QRectF(rect.left(), middle - 6, rect.width(), 18), title, uiFont(13, QFont::DemiBold), 0.85, Qt::AlignHCenter);
+    painter.setPen(palette.secondaryText());
+    drawFittedText(painter, QRectF(rect.left(), middle + 14, rect.width(), 16), description, uiFont(12), 0.85, Qt::AlignHCenter);
+}
+
+void paintProgress(QPainter &painter, const QRectF &rect, double fraction, const QColor &tint, const FerrowPalette &palette)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette.cardTint());
+    painter.drawRoundedRect(rect, rect.height() / 2, rect.height() / 2);
+    if (fraction > 0) {
+        painter.setBrush(tint);
+        painter.drawRoundedRect(QRectF(rect.left(), rect.top(), rect.width() * std::clamp(fraction, 0.0, 1.0), rect.height()), rect.height() / 2,
+                                rect.height() / 2);
+    }
+    painter.restore();
+}
+
+// A section's heading: its glyph and title.
+class SectionHeading : public SnapshotView {
+public:
+    SectionHeading(MainSection section, QWidget *parent = nullptr) : SnapshotView(parent), m_section(section)
+    {
+        setFixedHeight(30);
+        setAccessibleName(localizedText(sectionTitleKey(section)));
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        paintGlyph(painter, sectionGlyph(m_section), QRectF(0, 4, 22, 22), ferrowPalette().primaryText());
+        painter.setPen(ferrowPalette().primaryText());
+        drawFittedText(painter, QRectF(30, 0, width() - 30, 30), localizedText(sectionTitleKey(m_section)), uiFont(20, QFont::DemiBold), 0.8,
+                       Qt::AlignLeft);
+    }
+
+private:
+    MainSection m_section;
+};
+
+class DistributionPanel : public SnapshotView {
+public:
+    using SnapshotView::SnapshotView;
+    QSize sizeHint() const override { return {600, heightFor(snapshot())}; }
+    static int heightFor(const PowerSnapshot &s)
+    {
+        return static_cast<int>(2 * kPanelPadding + kPanelHeader + kPanelSpacing + kRowHeight * distributionRows(s).size() + 10 + 20);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const FerrowPalette &palette = ferrowPalette();
+        const QRectF content = paintNativePanel(painter, QRectF(rect()), localizedText("power.distribution"), Glyph::nodes, palette.accent(), palette);
+        double y = paintValueRows(painter, content.top(), content.left(), content.width(), distributionRows(snapshot()), palette);
+        painter.setPen(QPen(palette.separator(), 1));
+        painter.drawLine(QPointF(content.left(), y + 5.5), QPointF(content.right(), y + 5.5));
+        painter.setPen(palette.secondaryText());
+        painter.setFont(uiFont(11));
+        painter.drawText(QRectF(content.left(), y + 10, content.width(), 20), Qt::AlignLeft | Qt::AlignVCenter, distributionCaption(snapshot()));
+        painter.drawText(QRectF(content.left(), y + 10, content.width(), 20), Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("1 Hz"));
+    }
+};
+
+// The history panel: its ground and header, with the chart as a child in its content area.
+class ChartPanel : public SnapshotView {
+public:
+    explicit ChartPanel(PowerHistoryChart *chart)
+    {
+        auto *layout = new QVBoxLayout(this);
+        layout->setContentsMargins(int(kPanelPadding), int(kPanelPadding + kPanelHeader + kPanelSpacing), int(kPanelPadding), int(kPanelPadding));
+        layout->addWidget(chart);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        paintNativePanel(painter, QRectF(rect()), localizedText("power_history.title"), Glyph::chart, ferrowPalette().accent(), ferrowPalette());
+    }
+};
+
+class BatteryPanel : public SnapshotView {
+public:
+    using SnapshotView::SnapshotView;
+    static int heightFor(const PowerSnapshot &s)
+    {
+        const double content = s.hasBattery ? 40 + 6 + 14 + kRowHeight * 6 : 132;
+        return static_cast<int>(2 * kPanelPadding + kPanelHeader + kPanelSpacing + content);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const FerrowPalette &palette = ferrowPalette();
+        const PowerSnapshot &s = snapshot();
+        const QRectF content = paintNativePanel(painter, QRectF(rect()), localizedText("battery.title"), Glyph::battery, kSystemGreen, palette);
+        if (!s.hasBattery) {
+            paintUnavailable(painter, content, localizedText("battery.not_detected"), localizedText("battery.not_detected_description"), palette);
+            return;
+        }
+        painter.setPen(palette.primaryText());
+        painter.setFont(uiFont(28, QFont::DemiBold));
+        painter.drawText(QRectF(content.left(), content.top(), content.width() / 2, 40), Qt::AlignLeft | Qt::AlignVCenter,
+                         QStringLiteral("%1%").arg(s.batteryPercent));
+        painter.setPen(palette.secondaryText());
+        drawFittedText(painter, QRectF(content.center().x(), content.top(), content.width() / 2, 40), s.statusText(), uiFont(13), 0.85,
+                       Qt::AlignRight);
+        paintProgress(painter, QRectF(content.left(), content.top() + 44, content.width(), 6), s.batteryPercent / 100.0, kSystemGreen, palette);
+        paintValueRows(painter, content.top() + 60, content.left(), content.width(), batteryRows(s), palette);
+    }
+};
+
+class CellsPanel : public SnapshotView {
+public:
+    using SnapshotView::SnapshotView;
+    static constexpr double kTileHeight = 72;
+    static int heightFor(const PowerSnapshot &s)
+    {
+        double content = 110;
+        if (!s.cellVoltagesV.empty()) {
+            const int columns = cellGridColumns(s.cellVoltagesV.size());
+            const auto rows = static_cast<double>((s.cellVoltagesV.size() + columns - 1) / columns);
+            content = (s.cellVoltageSource ? 22 : 0) + rows * kTileHeight + (rows - 1) * 10;
+        }
+        return static_cast<int>(2 * kPanelPadding + kPanelHeader + kPanelSpacing + content);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const FerrowPalette &palette = ferrowPalette();
+        const PowerSnapshot &s = snapshot();
+        const QRectF content = paintNativePanel(painter, QRectF(rect()), localizedText("cells.status"), Glyph::grid, kCellsAccent, palette);
+        if (s.cellVoltagesV.empty()) {
+            if (s.hasBattery)
+                paintUnavailable(painter, content, localizedText("cells.no_data"), localizedText("cells.no_data_description"), palette);
+            else
+                paintUnavailable(painter, content, localizedText("battery.not_detected"), localizedText("battery.not_detected_description"), palette);
+            return;
+        }
+        double top = content.top();
+        if (s.cellVoltageSource) {
+            painter.setPen(palette.secondaryText());
+            painter.setFont(uiFont(11));
+            painter.drawText(QRectF(content.left(), top, content.width(), 16), Qt::AlignLeft | Qt::AlignVCenter,
+                             localizedText(*s.cellVoltageSource == BatteryCellSource::smc ? "cells.source.smc" : "cells.source.registry"));
+            top += 22;
+        }
+        const int columns = cellGridColumns(s.cellVoltagesV.size());
+        const double tileWidth = (content.width() - 10 * (columns - 1)) / columns;
+        painter.setRenderHint(QPainter::Antialiasing);
+        for (std::size_t i = 0; i < s.cellVoltagesV.size(); ++i) {
+            const QRectF tile(content.left() + static_cast<double>(i % columns) * (tileWidth + 10),
+                              top + static_cast<double>(i / columns) * (kTileHeight + 10), tileWidth, kTileHeight);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(palette.cardTint());
+            painter.drawRoundedRect(tile, 10, 10);
+            const QRectF inner = tile.adjusted(12, 8, -12, -10);
+            painter.setPen(palette.secondaryText());
+            painter.setFont(uiFont(11));
+            painter.drawText(QRectF(inner.left(), inner.top(), inner.width(), 14), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("S%1").arg(i + 1));
+            painter.setPen(palette.primaryText());
+            drawFittedText(painter, QRectF(inner.left(), inner.top() + 16, inner.width(), 24), QString::asprintf("%.3f V", s.cellVoltagesV[i]),
+                           uiFont(17, QFont::DemiBold), 0.75, Qt::AlignLeft);
+            paintProgress(painter, QRectF(inner.left(), inner.bottom() - 5, inner.width(), 5), cellBarFraction(s.cellVoltagesV[i]), kSystemGreen,
+                          palette);
+        }
+    }
+};
+
+class DevicePanel : public SnapshotView {
+public:
+    using SnapshotView::SnapshotView;
+    static int heightFor() { return static_cast<int>(2 * kPanelPadding + kPanelHeader + kPanelSpacing + kRowHeight * 12 + 32); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const FerrowPalette &palette = ferrowPalette();
+        const QRectF content = paintNativePanel(painter, QRectF(rect()), localizedText("device.title"), Glyph::info, palette.accent(), palette);
+        double y = paintValueRows(painter, content.top(), content.left(), content.width(), deviceRows(snapshot()), palette);
+        painter.setPen(palette.primaryText());
+        painter.setFont(uiFont(13, QFont::DemiBold));
+        painter.drawText(QRectF(content.left(), y + 8, content.width(), 20), Qt::AlignLeft | Qt::AlignVCenter, localizedText("device.history"));
+        paintValueRows(painter, y + 32, content.left(), content.width(), lifetimeRows(snapshot()), palette);
+    }
+};
+
+// A sidebar row: the section's glyph and title, the selection behind it.
+class SidebarRow : public QAbstractButton {
+public:
+    SidebarRow(MainSection section, const FerrowPalette *palette) : m_section(section), m_palette(palette)
+    {
+        setCheckable(true);
+        setFixedHeight(30);
+        setCursor(Qt::PointingHandCursor);
+        setAccessibleName(localizedFormatText("accessibility.scroll_to", localizedText(sectionTitleKey(section))));
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        if (isChecked()) {
+            QColor highlight = m_palette->accent();
+            highlight.setAlphaF(m_palette->isDark() ? 0.26f : 0.15f);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(highlight);
+            painter.drawRoundedRect(QRectF(rect()), 6, 6);
+        }
+        paintGlyph(painter, sectionGlyph(m_section), QRectF(8, 7, 16, 16), m_palette->accent());
+        painter.setPen(m_palette->primaryText());
+        drawFittedText(painter, QRectF(32, 0, width() - 40, height()), localizedText(sectionTitleKey(m_section)), uiFont(13), 0.85, Qt::AlignLeft);
+    }
+
+private:
+    MainSection m_section;
+    const FerrowPalette *m_palette;
+};
+
+QLabel *label(const QFont &font, const QString &text = QString())
+{
+    auto *l = new QLabel(text);
+    l->setFont(font);
+    return l;
+}
+
+} // namespace
+
+MainWindowView::MainWindowView(QWidget *parent)
+    : QMainWindow(parent)
+    , m_scrollAnimation(nullptr, "value")
+{
+    setObjectName(QStringLiteral("main"));
+    setWindowTitle(localizedText("window.device_details"));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/ferrow-256.png")));
+    setMinimumSize(900, 620);
+    resize(1040, 720);
+
+    auto *toolbar = addToolBar(localizedText("window.device_details"));
+    toolbar->setMovable(false);
+    auto *titles = new QWidget;
+    auto *titleColumn = new QVBoxLayout(titles);
+    titleColumn->setContentsMargins(8, 2, 8, 2);
+    titleColumn->setSpacing(0);
+    m_toolbarTitle = label(uiFont(13, QFont::DemiBold), localizedText("window.device_details"));
+    m_toolbarSubtitle = label(uiFont(11), localizedText("app.subtitle"));
+    titleColumn->addWidget(m_toolbarTitle);
+    titleColumn->addWidget(m_toolbarSubtitle);
+    toolbar->addWidget(titles);
+    auto *spring = new QWidget;
+    spring->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    toolbar->addWidget(spring);
+    auto *refresh = new QToolButton;
+    refresh->setObjectName(QStringLiteral("refresh"));
+    refresh->setText(localizedText("action.refresh"));
+    refresh->setToolTip(localizedText("action.refresh_help"));
+    refresh->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    QPixmap refreshIcon(QSize(32, 32));
+    refreshIcon.fill(Qt::transparent);
+    {
+        QPainter painter(&refreshIcon);
+        paintGlyph(painter, Glyph::refresh, QRectF(2, 2, 28, 28), FixedColor::macBlue);
+    }
+    refresh->setIcon(QIcon(refreshIcon));
+    connect(refresh, &QToolButton::clicked, this, &MainWindowView::refreshRequested);
+    toolbar->addWidget(refresh);
+
+    auto *central = new QWidget;
+    auto *columns = new QHBoxLayout(central);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(0);
+    columns->addWidget(buildSidebar());
+    columns->addWidget(buildDetail(), 1);
+    setCentralWidget(central);
+
+    m_scroll->viewport()->installEventFilter(this);
+    m_scrollAnimation.setTargetObject(m_scroll->verticalScrollBar());
+    m_scrollAnimation.setDuration(350);
+    m_scrollAnimation.setEasingCurve(QEasingCurve::InOutQuad);
+    connect(m_scroll->verticalScrollBar(), &QScrollBar::valueChanged, this, &MainWindowView::followScroll);
+    connect(&m_scrollAnimation, &QPropertyAnimation::finished, this, &MainWindowView::followScroll);
+
+    setSelection(MainSection::overview);
+    setVersion(QString::fromUtf16(kAbsentText));
+    setSnapshot(m_snapshot);
+    setFerrowPalette(m_palette);
+}
+
+QWidget *MainWindowView::buildSidebar()
+{
+    m_sidebar = new QWidget;
+    m_sidebar->setObjectName(QStringLiteral("sidebar"));
+    m_sidebar->setMinimumWidth(184);
+    m_sidebar->setMaximumWidth(244);
+    m_sidebar->setFixedWidth(208);
+    m_sidebar->setAutoFillBackground(true);
+    auto *column = new QVBoxLayout(m_sidebar);
+    column->setContentsMargins(8, 10, 8, 10);
+    column->setSpacing(2);
+
+    auto *brand = new QHBoxLayout;
+    brand->setContentsMargins(6, 0, 6, 8);
+    brand->setSpacing(10);
+    brand->addWidget(new FerrowLogoLink(34, 8));
+    auto *brandText = new QVBoxLayout;
+    brandText->setSpacing(0);
+    brandText->addWidget(label(uiFont(13, QFont::DemiBold), localizedText("FERROW")));
+    m_sidebarStatus = label(uiFont(11));
+    brandText->addWidget(m_sidebarStatus);
+    brand->addLayout(brandText, 1);
+    column->addLayout(brand);
+
+    const auto addHeader = [&](const char *key) {
+        QLabel *header = label(uiFont(11, QFont::DemiBold), localizedText(key));
+        header->setContentsMargins(8, 10, 8, 4);
+        header->setProperty("role", QStringLiteral("sidebarHeader"));
+        column->addWidget(header);
+    };
+    addHeader("sidebar.monitor");
+    for (const MainSection section : kMainSections) {
+        if (section == MainSection::history)
+            addHeader("sidebar.system");
+        auto *row = new SidebarRow(section, &m_palette);
+        row->setObjectName(QStringLiteral("sidebar.") + QLatin1String(sectionTitleKey(section)));
+        connect(row, &QAbstractButton::clicked, this, [this, section] { pickSection(section); });
+        m_sidebarRows[section] = row;
+        column->addWidget(row);
+    }
+    column->addStretch();
+    m_updatedAt = label(uiFont(10));
+    m_updatedAt->setContentsMargins(8, 0, 8, 0);
+    column->addWidget(m_updatedAt);
+    return m_sidebar;
+}
+
+QWidget *MainWindowView::buildDetail()
+{
+    auto *detail = new QWidget;
+    auto *detailColumn = new QVBoxLayout(detail);
+    detailColumn->setContentsMargins(0, 0, 0, 0);
+    detailColumn->setSpacing(0);
+
+    m_scroll = new QScrollArea;
+    m_scroll->setObjectName(QStringLiteral("detailScroll"));
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *page = new QWidget;
+    auto *centring = new QHBoxLayout(page);
+    centring->setContentsMargins(0, 0, 0, 0);
+    m_detailContent = new QWidget;
+    m_detailContent->setMaximumWidth(880);
+    centring->addWidget(m_detailContent);
+    centring->addStretch(0);
+    auto *column = new QVBoxLayout(m_detailContent);
+    column->setContentsMargins(24, 24, 24, 24);
+    column->setSpacing(24);
+
+    const auto block = [&](MainSection section) {
+        auto *box = new QWidget;
+        box->setObjectName(QStringLiteral("block.") + QLatin1String(sectionTitleKey(section)));
+        auto *layout = new QVBoxLayout(box);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(14);
+        if (section != MainSection::overview) {
+            auto *heading = new SectionHeading(section);
+            m_paletteViews.push_back(heading);
+            layout->addWidget(heading);
+        }
+        m_blocks[section] = box;
+        column->addWidget(box);
+        return layout;
+    };
+    const auto panel = [&](QVBoxLayout *layout, SnapshotView *view, const char *name) {
+        view->setObjectName(QLatin1String(name));
+        m_paletteViews.push_back(view);
+        layout->addWidget(view);
+    };
+
+    QVBoxLayout *overview = block(MainSection::overview);
+    m_overviewTitle = label(uiFont(26, QFont::DemiBold));
+    m_overviewSubtitle = label(uiFont(13));
+    m_overviewSubtitle->setWordWrap(true);
+    overview->setSpacing(4);
+    overview->addWidget(m_overviewTitle);
+    overview->addWidget(m_overviewSubtitle);
+
+    QVBoxLayout *power = block(MainSection::power);
+    auto *meterRow = new QHBoxLayout;
+    meterRow->setSpacing(12);
+    for (const auto &[code, unit, color] : {std::tuple{"VBUS", "V", FixedColor::meterInput}, std::tuple{"IBUS", "A", FixedColor::meterCurrent},
+                                            std::tuple{"PWR", "W", FixedColor::meterPower}}) {
+        auto *meter = new MeterCard(QLatin1String(code), QLatin1String(unit), color, MeterCard::Size::branded);
+        m_meters.push_back(meter);
+        meterRow->addWidget(meter);
+    }
+    power->addLayout(meterRow);
+    m_meterCaption = label(uiFont(11));
+    power->addWidget(m_meterCaption);
+    panel(power, new DistributionPanel, "distribution");
+    m_chart = new PowerHistoryChart;
+    panel(power, new ChartPanel(m_chart), "historyPanel");
+
+    panel(block(MainSection::battery), new BatteryPanel, "batteryPanel");
+    panel(block(MainSection::cells), new CellsPanel, "cellsPanel");
+    panel(block(MainSection::history), new DevicePanel, "devicePanel");
+
+    // Room after the last section, so that every section can be scrolled to the top.
+    m_endSpacer = new QWidget;
+    m_endSpacer->setAttribute(Qt::WA_TransparentForMouseEvents);
+    column->addWidget(m_endSpacer);
+    column->addStretch();
+    m_scroll->setWidget(page);
+    detailColumn->addWidget(m_scroll, 1);
+
+    auto *footer = new QWidget;
+    footer->setObjectName(QStringLiteral("footer"));
+    auto *footerRow = new QHBoxLayout(footer);
+    footerRow->setContentsMargins(24, 10, 24, 10);
+    m_website = new OfficialWebsiteLink;
+    m_website->setFixedWidth(90);
+    footerRow->addWidget(m_website);
+    footerRow->addStretch();
+    m_version = label(uiFont(10));
+    m_version->setObjectName(QStringLiteral("version"));
+    footerRow->addWidget(m_version);
+    detailColumn->addWidget(footer);
+    return detail;
+}
+
+void MainWindowView::setSnapshot(const PowerSnapshot &s)
+{
+    m_snapshot = s;
+    for (QWidget *view : m_paletteViews)
+        static_cast<SnapshotView *>(view)->setSnapshot(s);
+    findChild<QWidget *>(QStringLiteral("distribution"))->setFixedHeight(DistributionPanel::heightFor(s));
+    findChild<QWidget *>(QStringLiteral("batteryPanel"))->setFixedHeight(BatteryPanel::heightFor(s));
+    findChild<QWidget *>(QStringLiteral("cellsPanel"))->setFixedHeight(CellsPanel::heightFor(s));
+    findChild<QWidget *>(QStringLiteral("devicePanel"))->setFixedHeight(DevicePanel::heightFor());
+
+    m_sidebarStatus->setText(s.statusText());
+    const QTime time = QDateTime::fromMSecsSinceEpoch(std::chrono::duration_cast<std::chrono::milliseconds>(s.updatedAt.time_since_epoch()).count())
+                           .time();
+    m_updatedAt->setText(localizedFormatText("sidebar.updated_at", QLocale().toString(time, QLocale::ShortFormat)));
+    m_overviewTitle->setText(localizedText(overviewTitleKey(s)));
+    m_overviewSubtitle->setText(localizedText(overviewSubtitleKey(s)));
+    m_meters[0]->setValue(displayVoltageV(s));
+    m_meters[1]->setValue(s.displayCurrentA());
+    m_meters[2]->setValue(s.displayPowerW());
+    m_meterCaption->setText(meterCaption(s));
+    updateEndSpacer();
+}
+
+void MainWindowView::setHistory(const PowerHistory &history)
+{
+    m_chart->setHistory(history);
+}
+
+void MainWindowView::setVersion(const QString &version)
+{
+    m_version->setText(localizedFormatText("app.version", version));
+}
+
+void MainWindowView::setFerrowPalette(const FerrowPalette &palette)
+{
+    m_palette = palette;
+    applyPalette();
+}
+
+void MainWindowView::applyPalette()
+{
+    const FerrowPalette &p = m_palette;
+    QPalette window = palette();
+    window.setColor(QPalette::Window, windowBackground(p));
+    window.setColor(QPalette::WindowText, p.primaryText());
+    window.setColor(QPalette::Button, windowBackground(p));
+    window.setColor(QPalette::ButtonText, p.primaryText());
+    setPalette(window);
+    QPalette sidebar = window;
+    sidebar.setColor(QPalette::Window, p.isDark() ? QColor(44, 44, 48) : QColor(232, 232, 236));
+    m_sidebar->setPalette(sidebar);
+    m_scroll->viewport()->setAutoFillBackground(false);
+    m_scroll->widget()->setAutoFillBackground(false);
+
+    const auto colour = [](QLabel *l, const QColor &c) { l->setStyleSheet(QStringLiteral("color: %1").arg(cssColor(c))); };
+    for (QLabel *l : {m_sidebarStatus, m_overviewSubtitle, m_meterCaption, m_version, m_toolbarSubtitle})
+        colour(l, p.secondaryText());
+    colour(m_updatedAt, p.tertiaryText());
+    for (QLabel *l : m_sidebar->findChildren<QLabel *>()) {
+        if (l->property("role").toString() == u"sidebarHeader")
+            colour(l, p.secondaryText());
+    }
+    for (QWidget *view : m_paletteViews)
+        static_cast<SnapshotView *>(view)->setFerrowPalette(p);
+    m_chart->setFerrowPalette(p);
+    m_website->setFerrowPalette(p);
+    for (auto &[section, row] : m_sidebarRows)
+        row->update();
+}
+
+void MainWindowView::pickSection(MainSection section)
+{
+    setSelection(section);
+    QScrollBar *bar = m_scroll->verticalScrollBar();
+    const int target = std::clamp(m_blocks.at(section)->mapTo(m_scroll->widget(), QPoint(0, 0)).y() - 24, bar->minimum(), bar->maximum());
+    m_scrollAnimation.stop();
+    m_scrollAnimation.setStartValue(bar->value());
+    m_scrollAnimation.setEndValue(target);
+    m_scrollAnimation.start();
+}
+
+void MainWindowView::setSelection(MainSection section)
+{
+    m_selection = section;
+    for (auto &[rowSection, row] : m_sidebarRows)
+        static_cast<QAbstractButton *>(row)->setChecked(rowSection == section);
+}
+
+void MainWindowView::followScroll()
+{
+    if (m_scrollAnimation.state() == QAbstractAnimation::Running)
+        return; // a picked section scrolls into place; the pick holds meanwhile
+    std::map<MainSection, double> offsets;
+    const int scrolled = m_scroll->verticalScrollBar()->value();
+    for (const auto &[section, block] : m_blocks)
+        offsets[section] = block->mapTo(m_scroll->widget(), QPoint(0, 0)).y() - scrolled;
+    if (const std::optional<MainSection> followed = sectionFollowingScroll(offsets); followed && *followed != m_selection)
+        setSelection(*followed);
+}
+
+void MainWindowView::updateEndSpacer()
+{
+    // Enough room under the last section for it to reach the top of the viewport.
+    const int last = m_blocks.at(MainSection::history)->sizeHint().height();
+    m_endSpacer->setFixedHeight(std::max(0, m_scroll->viewport()->height() - last - 2 * 24));
+}
+
+bool MainWindowView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_scroll->viewport() && event->type() == QEvent::Resize)
+        updateEndSpacer();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+} // namespace ferrow

@@ -1,0 +1,215 @@
+#include "app/text_table.h"
+#include "model/localized_text.h"
+#include "views/main_window_model.h"
+#include "views/power_history_chart_model.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+using namespace ferrow;
+using namespace std::chrono_literals;
+
+namespace {
+
+const WallTime kNow = WallTime() + std::chrono::hours(24 * 365 * 56);
+
+// A history of one reading a second, with the given watts, ending `endsAgo` before kNow.
+PowerHistory historyOf(const QList<double> &watts, std::chrono::seconds endsAgo = 0s)
+{
+    PowerHistory history;
+    const WallTime first = kNow - endsAgo - std::chrono::seconds(watts.size() - 1);
+    for (qsizetype i = 0; i < watts.size(); ++i) {
+        PowerSnapshot s;
+        s.isExternalConnected = true;
+        s.isDataAvailable = true;
+        s.dcPowerW = watts[i];
+        s.updatedAt = first + std::chrono::seconds(i);
+        history.append(s);
+    }
+    return history;
+}
+
+} // namespace
+
+class MainWindowModelTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(installTextTable(*QCoreApplication::instance())); }
+
+    void chartStatistics_data()
+    {
+        QTest::addColumn<QList<double>>("watts");
+        QTest::addColumn<QVariant>("average");
+        QTest::addColumn<QVariant>("peak");
+        QTest::addColumn<double>("lower");
+        QTest::addColumn<double>("upper");
+        QTest::newRow("empty") << QList<double>{} << QVariant() << QVariant() << 0.0 << 10.0;
+        QTest::newRow("all at 4 W") << QList<double>{4, 4, 4} << QVariant(4.0) << QVariant(4.0) << 0.0 << 10.0;
+        QTest::newRow("peak of 40 W") << QList<double>{10, 40, 10} << QVariant(20.0) << QVariant(40.0) << 0.0 << 46.0;
+        QTest::newRow("a dip to -5 W") << QList<double>{-5, 3} << QVariant(-1.0) << QVariant(3.0) << -5.75 << 10.0;
+        QTest::newRow("all negative") << QList<double>{-20, -10} << QVariant(-15.0) << QVariant(-10.0) << -23.0 << 10.0;
+    }
+
+    void chartStatistics()
+    {
+        QFETCH(QList<double>, watts);
+        QFETCH(QVariant, average);
+        QFETCH(QVariant, peak);
+        QFETCH(double, lower);
+        QFETCH(double, upper);
+        const PowerHistory history = historyOf(watts);
+        const ChartStatistics statistics = ferrow::chartStatistics(history, 0);
+        QCOMPARE(statistics.averageW.has_value(), average.isValid());
+        if (statistics.averageW)
+            QVERIFY(qAbs(*statistics.averageW - average.toDouble()) < 1e-9);
+        QCOMPARE(statistics.peakW.has_value(), peak.isValid());
+        if (statistics.peakW)
+            QCOMPARE(*statistics.peakW, peak.toDouble());
+        QVERIFY(qAbs(statistics.lowerW - lower) < 1e-9);
+        QVERIFY(qAbs(statistics.upperW - upper) < 1e-9);
+    }
+
+    void windowEndsAtTheLastReading()
+    {
+        // Twenty-five minutes of readings that stopped twenty minutes ago, seen through 15 minutes.
+        QList<double> watts(25 * 60, 7.0);
+        const PowerHistory history = historyOf(watts, 20min);
+        const ChartWindow window = chartWindow(history, 15, kNow);
+        QCOMPARE(window.end, *history.updatedAt());
+        QCOMPARE(window.end - window.start, std::chrono::duration_cast<WallTime::duration>(15min));
+        const std::size_t first = firstVisibleSample(history, window.start);
+        QCOMPARE(history.samples().size() - first, 15u * 60 + 1); // the start is inclusive
+        QCOMPARE(chartWindow(PowerHistory(), 5, kNow).end, kNow);
+    }
+
+    void followingTheScroll_data()
+    {
+        QTest::addColumn<QList<double>>("offsets"); // overview, power, battery, cells, history
+        QTest::addColumn<int>("section");
+        QTest::newRow("battery at 60, power at -300") << QList<double>{-700, -300, 60, 500, 900} << int(MainSection::power);
+        QTest::newRow("battery at 52 exactly") << QList<double>{-700, -300, 52, 500, 900} << int(MainSection::battery);
+        QTest::newRow("at the top") << QList<double>{24, 200, 700, 1100, 1500} << int(MainSection::overview);
+        QTest::newRow("none reached: the nearest") << QList<double>{80, 400, 700, 1100, 1500} << int(MainSection::overview);
+        QTest::newRow("scrolled to the end") << QList<double>{-2000, -1600, -900, -400, 24} << int(MainSection::history);
+    }
+
+    void followingTheScroll()
+    {
+        QFETCH(QList<double>, offsets);
+        QFETCH(int, section);
+        std::map<MainSection, double> tops;
+        for (std::size_t i = 0; i < kMainSections.size(); ++i)
+            tops[kMainSections[i]] = offsets[static_cast<qsizetype>(i)];
+        QCOMPARE(int(*sectionFollowingScroll(tops)), section);
+        QCOMPARE(sectionFollowingScroll({}), std::nullopt);
+    }
+
+    void maskedSerial_data()
+    {
+        QTest::addColumn<bool>("hasBattery");
+        QTest::addColumn<QVariant>("serial");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("ten characters") << true << QVariant(QStringLiteral("ABCDEFGHIJ")) << QStringLiteral("ABCD\u2022\u2022\u2022\u2022GHIJ");
+        QTest::newRow("nine characters") << true << QVariant(QStringLiteral("ABCDEFGHI")) << QStringLiteral("ABCD\u2022\u2022\u2022\u2022FGHI");
+        QTest::newRow("eight characters") << true << QVariant(QStringLiteral("ABCDEFGH")) << QString(8, QChar(0x2022));
+        QTest::newRow("three characters") << true << QVariant(QStringLiteral("ABC")) << QString(3, QChar(0x2022));
+        QTest::newRow("empty") << true << QVariant(QString()) << QStringLiteral("\u2014");
+        QTest::newRow("absent") << true << QVariant() << QStringLiteral("\u2014");
+        QTest::newRow("no battery") << false << QVariant(QStringLiteral("ABCDEFGHIJ")) << QStringLiteral("\u2014");
+    }
+
+    void maskedSerial()
+    {
+        QFETCH(bool, hasBattery);
+        QFETCH(QVariant, serial);
+        QFETCH(QString, shown);
+        PowerSnapshot s;
+        s.hasBattery = hasBattery;
+        if (serial.isValid())
+            s.batterySerial = serial.toString();
+        QCOMPARE(ferrow::maskedSerial(s), shown);
+    }
+
+    void durationText_data()
+    {
+        QTest::addColumn<QVariant>("minutes");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("59 minutes") << QVariant(59) << localizedFormat("duration.minutes", {59});
+        QTest::newRow("60 minutes") << QVariant(60) << localizedFormat("duration.hours_minutes", {1, 0});
+        QTest::newRow("1439 minutes") << QVariant(1439) << localizedFormat("duration.hours_minutes", {23, 59});
+        QTest::newRow("1440 minutes") << QVariant(1440) << localizedFormat("duration.days_hours", {1, 0});
+        QTest::newRow("1500 minutes") << QVariant(1500) << localizedFormat("duration.days_hours", {1, 1});
+        QTest::newRow("absent") << QVariant() << QStringLiteral("\u2014");
+    }
+
+    void durationText()
+    {
+        QFETCH(QVariant, minutes);
+        QFETCH(QString, text);
+        QCOMPARE(ferrow::durationText(minutes.isValid() ? std::optional<std::int64_t>(minutes.toLongLong()) : std::nullopt), text);
+        QVERIFY(!text.contains(u'%'));
+    }
+
+    void cells()
+    {
+        QCOMPARE(cellGridColumns(6), 4);
+        QCOMPARE(cellGridColumns(3), 3);
+        QCOMPARE(cellGridColumns(0), 0);
+        QCOMPARE(cellBarFraction(2.5), 0.0);
+        QCOMPARE(cellBarFraction(3.0), 0.0);
+        QCOMPARE(cellBarFraction(3.625), 0.5);
+        QCOMPARE(cellBarFraction(4.4), 1.0);
+    }
+
+    void overviewAndDistribution_data()
+    {
+        QTest::addColumn<bool>("hasBattery");
+        QTest::addColumn<bool>("external");
+        QTest::addColumn<bool>("charging");
+        QTest::addColumn<double>("flowW");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("subtitle");
+        QTest::addColumn<QString>("batteryPower"); // empty: no such row
+        QTest::addColumn<QString>("caption");
+        const QString withBattery = QStringLiteral("DC IN \u2212 System Total");
+        QTest::newRow("desktop") << false << true << false << 0.0 << QStringLiteral("overview.external_power")
+                                 << QStringLiteral("overview.no_battery_subtitle") << QString() << QStringLiteral("PSTR \u00B7 System Total");
+        QTest::newRow("charging") << true << true << true << 18.24 << QStringLiteral("overview.charging")
+                                  << QStringLiteral("overview.power_distribution_subtitle") << QStringLiteral("+18.2 W") << withBattery;
+        QTest::newRow("connected, idle") << true << true << false << 0.04 << QStringLiteral("status.power_connected")
+                                         << QStringLiteral("overview.power_distribution_subtitle") << QStringLiteral("0.0 W") << withBattery;
+        QTest::newRow("on battery") << true << false << false << -7.5 << QStringLiteral("status.on_battery")
+                                    << QStringLiteral("overview.battery_subtitle") << QStringLiteral("-7.5 W") << withBattery;
+    }
+
+    void overviewAndDistribution()
+    {
+        QFETCH(bool, hasBattery);
+        QFETCH(bool, external);
+        QFETCH(bool, charging);
+        QFETCH(double, flowW);
+        QFETCH(QString, title);
+        QFETCH(QString, subtitle);
+        QFETCH(QString, batteryPower);
+        QFETCH(QString, caption);
+        PowerSnapshot s;
+        s.hasBattery = hasBattery;
+        s.isExternalConnected = external;
+        s.isCharging = charging;
+        s.isDataAvailable = true;
+        s.batteryFlowW = flowW;
+        QCOMPARE(QString::fromLatin1(overviewTitleKey(s)), title);
+        QCOMPARE(QString::fromLatin1(overviewSubtitleKey(s)), subtitle);
+        const std::vector<ValueRow> rows = distributionRows(s);
+        QCOMPARE(rows.size(), batteryPower.isEmpty() ? 2u : 3u);
+        if (!batteryPower.isEmpty())
+            QCOMPARE(rows.back().value, batteryPower);
+        QCOMPARE(distributionCaption(s), caption);
+        s.isDataAvailable = false;
+        QCOMPARE(batteryPowerText(s), QStringLiteral("\u2014"));
+    }
+};
+
+QTEST_GUILESS_MAIN(MainWindowModelTest)
+#include "tst_main_window_model.moc"
