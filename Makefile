@@ -6,12 +6,15 @@ CMAKE_FLAGS  := -G Ninja -DFERROW_WARNINGS_AS_ERRORS=ON
 
 ifeq ($(shell uname -s),Darwin)
 CMAKE_FLAGS += -DCMAKE_PREFIX_PATH=$(shell brew --prefix qt 2>/dev/null)
+RUN          := open $(BUILD_DIR)/src/app/Ferrow.app
+else
+RUN          := $(BUILD_DIR)/src/app/ferrow
 endif
 
 .PHONY: run test bench deps build build-sanitize clean
 
 run: build
-	$(BUILD_DIR)/src/app/ferrow
+	$(RUN)
 
 test: build build-sanitize
 	ctest --test-dir $(BUILD_DIR) --output-on-failure -j2

@@ -2,6 +2,7 @@
 
 #include "app/app_settings.h"
 #include "app/menu_bar_label.h"
+#include "app/platform_services.h"
 #include "app/popover_placement.h"
 #include "model/localized_text.h"
 #include "monitor/power_monitor.h"
@@ -15,10 +16,8 @@
 #include <QCursor>
 #include <QEvent>
 #include <QLabel>
-#include <QMenu>
 #include <QScreen>
 #include <QStyleHints>
-#include <QSystemTrayIcon>
 #include <QVBoxLayout>
 
 namespace ferrow {
@@ -36,23 +35,23 @@ ColorScheme systemColorScheme()
 } // namespace
 
 ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepWakeNotifier> sleepWake,
-                                   std::unique_ptr<LoginItem> loginItem, QObject *parent)
+                                   std::unique_ptr<LoginItem> loginItem, std::unique_ptr<MenuBarItem> menuBarItem, QObject *parent)
     : QObject(parent)
     , m_machineInfo{nullptr, machine.description, machine.isSimulated, machine.runsInRealTime}
     , m_sleepWake(std::move(sleepWake))
     , m_loginItem(std::move(loginItem))
     , m_monitor(std::make_unique<PowerMonitor>(std::make_unique<PowerSensorReader>(std::move(machine.platform)), m_sleepWake.get()))
+    , m_menuBarItem(std::move(menuBarItem))
 {
-    m_usesTray = QSystemTrayIcon::isSystemTrayAvailable();
 
-    m_window = std::make_unique<QWidget>(nullptr, m_usesTray ? Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint : Qt::Window);
+    m_window = std::make_unique<QWidget>(nullptr, m_menuBarItem ? Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint : Qt::Window);
     m_window->setObjectName(QStringLiteral("dashboardWindow"));
     m_window->setWindowTitle(localizedText("FERROW"));
     m_window->setWindowIcon(QIcon(QStringLiteral(":/icons/ferrow-256.png")));
     auto *layout = new QVBoxLayout(m_window.get());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    if (!m_usesTray) {
+    if (!m_menuBarItem) {
         auto *notice = new QLabel(localizedText("tray.no_tray_notice"));
         notice->setObjectName(QStringLiteral("noTrayNotice"));
         notice->setWordWrap(true);
@@ -69,7 +68,7 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
         m_dashboard->setSubtitle(localizedText(m_machineInfo.description.contains(u"desktop") ? "app.menu_subtitle_simulated_desktop"
                                                                                                 : "app.menu_subtitle_simulated"));
     }
-    m_dashboard->setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+    m_dashboard->setVersion(applicationVersionText());
     m_dashboard->setShowPowerInMenuBar(readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true));
     m_dashboard->setLaunchAtLogin(m_loginItem->isEnabled());
     m_dashboard->setReduceMotion(readBoolSetting(m_settings, AppSetting::reduceMotion, false));
@@ -90,18 +89,8 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     });
     applyAppearance();
 
-    if (m_usesTray) {
-        m_menu = std::make_unique<QMenu>();
-        m_menu->addAction(localizedText("action.show_dashboard"), this, &ApplicationShell::togglePopover);
-        m_menu->addSeparator();
-        m_menu->addAction(localizedText("action.quit"), qApp, &QCoreApplication::quit);
-        m_tray = new QSystemTrayIcon(this);
-        m_tray->setContextMenu(m_menu.get());
-        connect(m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-            if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
-                togglePopover();
-        });
-    }
+    if (m_menuBarItem)
+        connect(m_menuBarItem.get(), &MenuBarItem::activated, this, &ApplicationShell::togglePopover);
 }
 
 ApplicationShell::~ApplicationShell() = default;
@@ -109,9 +98,8 @@ ApplicationShell::~ApplicationShell() = default;
 void ApplicationShell::start()
 {
     m_monitor->start();
-    if (m_usesTray) {
+    if (m_menuBarItem) {
         updateTrayItem();
-        m_tray->show();
     } else {
         m_window->show();
     }
@@ -132,17 +120,18 @@ MainWindowView *ApplicationShell::openMainWindow()
     if (!m_mainWindow) {
         m_mainWindow = std::make_unique<MainWindowView>();
         m_mainWindow->setFerrowPalette(currentPalette());
-        m_mainWindow->setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+        m_mainWindow->setVersion(applicationVersionText());
         m_mainWindow->setSnapshot(m_monitor->snapshot());
         m_mainWindow->setHistory(m_monitor->powerHistory());
         m_mainWindow->installEventFilter(this);
         connect(m_mainWindow.get(), &MainWindowView::refreshRequested, m_monitor.get(), &PowerMonitor::refresh);
     }
-    if (m_usesTray)
+    if (m_menuBarItem)
         m_window->hide();
     m_mainWindow->show();
     m_mainWindow->raise();
     m_mainWindow->activateWindow();
+    bringApplicationToFront();
     m_monitor->start();
     return m_mainWindow.get();
 }
@@ -170,12 +159,12 @@ void ApplicationShell::showSnapshot()
 
 void ApplicationShell::updateTrayItem()
 {
-    if (!m_tray)
+    if (!m_menuBarItem)
         return;
     const PowerSnapshot &snapshot = m_monitor->snapshot();
-    m_tray->setIcon(renderTrayIcon(snapshot, readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true)));
     const QString figure = menuBarFigureText(snapshot) + QStringLiteral(" \u00B7 ") + snapshot.statusText();
-    m_tray->setToolTip(localizedFormatText(m_machineInfo.isSimulated ? "tray.tooltip_simulated" : "tray.tooltip", figure));
+    m_menuBarItem->showReading(snapshot, readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true),
+                               localizedFormatText(m_machineInfo.isSimulated ? "tray.tooltip_simulated" : "tray.tooltip", figure));
 }
 
 void ApplicationShell::togglePopover()
@@ -184,7 +173,7 @@ void ApplicationShell::togglePopover()
         m_window->hide();
         return;
     }
-    const QRect item = m_tray ? m_tray->geometry() : QRect();
+    const QRect item = m_menuBarItem ? m_menuBarItem->geometry() : QRect();
     const QPoint cursor = QCursor::pos();
     QScreen *screen = QGuiApplication::screenAt(item.isValid() ? item.center() : cursor);
     if (!screen)
@@ -202,7 +191,7 @@ bool ApplicationShell::eventFilter(QObject *watched, QEvent *event)
         && (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ThemeChange))
         applyAppearance();
     if (watched == m_window.get()) {
-        if (event->type() == QEvent::WindowDeactivate && m_usesTray)
+        if (event->type() == QEvent::WindowDeactivate && m_menuBarItem)
             m_window->hide(); // a popover closes when it loses focus
         else if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ThemeChange)
             applyAppearance();

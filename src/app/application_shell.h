@@ -2,6 +2,7 @@
 
 #include "app/app_services.h"
 #include "app/machine_source.h"
+#include "app/menu_bar_item.h"
 #include "views/ferrow_palette.h"
 
 #include <QObject>
@@ -10,8 +11,6 @@
 
 #include <memory>
 
-class QSystemTrayIcon;
-class QMenu;
 class QWidget;
 
 namespace ferrow {
@@ -27,8 +26,9 @@ class SleepWakeNotifier;
 class ApplicationShell : public QObject {
     Q_OBJECT
 public:
+    // Without a menu-bar item the dashboard is an ordinary window.
     ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepWakeNotifier> sleepWake, std::unique_ptr<LoginItem> loginItem,
-                     QObject *parent = nullptr);
+                     std::unique_ptr<MenuBarItem> menuBarItem, QObject *parent = nullptr);
     ~ApplicationShell() override;
 
     void start();
@@ -55,9 +55,7 @@ private:
     std::unique_ptr<QWidget> m_window;
     DashboardView *m_dashboard = nullptr;
     std::unique_ptr<MainWindowView> m_mainWindow;
-    std::unique_ptr<QMenu> m_menu;
-    QSystemTrayIcon *m_tray = nullptr;
-    bool m_usesTray = false;
+    std::unique_ptr<MenuBarItem> m_menuBarItem; // none: the dashboard is a window
 };
 
 } // namespace ferrow

@@ -3,6 +3,10 @@
 #include "platform/recorded/recorded_machine.h"
 #include "platform/simulated/simulated_machine.h"
 
+#if defined(Q_OS_MACOS)
+#include "platform/macos/mac_machine.h"
+#endif
+
 namespace ferrow {
 
 std::optional<MachineSource> MachineSource::parse(const QString &text)
@@ -28,6 +32,9 @@ std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *e
     };
     switch (source.kind) {
     case MachineSource::Kind::automatic:
+#if defined(Q_OS_MACOS)
+        return OpenedMachine{std::make_unique<MacMachine>(), QStringLiteral("this Mac"), false, true};
+#endif
     case MachineSource::Kind::simulatedNotebook:
         return simulated(Kind::notebook, "simulated notebook");
     case MachineSource::Kind::simulatedDesktop:

@@ -1,17 +1,14 @@
 #include "app/app_services.h"
 #include "app/application_shell.h"
 #include "app/machine_source.h"
+#include "app/platform_services.h"
 #include "app/terminal_view.h"
 #include "app/text_table.h"
-#include "monitor/sleep_wake_notifier.h"
 #include "sources/power_sensor_reader.h"
 
 #include <QApplication>
 #include <QTextStream>
 
-#if defined(Q_OS_LINUX)
-#include "platform/linux/logind_sleep_notifier.h"
-#endif
 
 using namespace ferrow;
 
@@ -24,15 +21,6 @@ bool hasDisplay()
         || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 #else
     return true;
-#endif
-}
-
-std::unique_ptr<SleepWakeNotifier> makeSleepWakeNotifier()
-{
-#if defined(Q_OS_LINUX)
-    return std::make_unique<LogindSleepNotifier>();
-#else
-    return std::make_unique<SleepWakeNotifier>();
 #endif
 }
 
@@ -73,6 +61,7 @@ int main(int argc, char *argv[])
     nameApplication();
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setQuitOnLastWindowClosed(false); // the tray item lives on with every window closed
+    prepareApplication();
     installTextTable(application);
     registerBrandFonts();
 
@@ -82,7 +71,7 @@ int main(int argc, char *argv[])
         QTextStream(stderr) << "ferrow: " << error << Qt::endl;
         return 1;
     }
-    ApplicationShell shell(std::move(*machine), makeSleepWakeNotifier(), std::make_unique<XdgAutostartLoginItem>());
+    ApplicationShell shell(std::move(*machine), createSleepWakeNotifier(), createLoginItem(), createMenuBarItem());
     shell.start();
     return QApplication::exec();
 }

@@ -39,7 +39,7 @@ std::unique_ptr<ApplicationShell> makeShell(bool loginRefuses)
     QString error;
     std::optional<OpenedMachine> machine = openMachine(*MachineSource::parse(QStringLiteral("simulated")), &error);
     return std::make_unique<ApplicationShell>(std::move(*machine), std::make_unique<SleepWakeNotifier>(),
-                                              std::make_unique<FakeLoginItem>(loginRefuses));
+                                              std::make_unique<FakeLoginItem>(loginRefuses), nullptr);
 }
 
 } // namespace

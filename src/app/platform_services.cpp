@@ -1,0 +1,72 @@
+#include "app/platform_services.h"
+
+#include "app/tray_menu_bar_item.h"
+
+#include <QCoreApplication>
+
+#if defined(Q_OS_MACOS)
+#include "app/macos/mac_app_services.h"
+#include "app/macos/mac_status_item.h"
+#include "platform/macos/workspace_sleep_notifier.h"
+#elif defined(Q_OS_LINUX)
+#include "platform/linux/logind_sleep_notifier.h"
+#endif
+
+namespace ferrow {
+
+std::unique_ptr<MenuBarItem> createMenuBarItem()
+{
+#if defined(Q_OS_MACOS)
+    return std::make_unique<MacStatusItem>();
+#else
+    if (!QSystemTrayIcon::isSystemTrayAvailable())
+        return nullptr;
+    return std::make_unique<TrayMenuBarItem>();
+#endif
+}
+
+std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
+{
+#if defined(Q_OS_MACOS)
+    return std::make_unique<WorkspaceSleepNotifier>();
+#elif defined(Q_OS_LINUX)
+    return std::make_unique<LogindSleepNotifier>();
+#else
+    return std::make_unique<SleepWakeNotifier>();
+#endif
+}
+
+std::unique_ptr<LoginItem> createLoginItem()
+{
+#if defined(Q_OS_MACOS)
+    return std::make_unique<MainAppLoginItem>();
+#else
+    return std::make_unique<XdgAutostartLoginItem>();
+#endif
+}
+
+QString applicationVersionText()
+{
+#if defined(Q_OS_MACOS)
+    const auto [shortVersion, build] = bundleVersions();
+    return appVersionString(shortVersion, build);
+#else
+    return appVersionString(QCoreApplication::applicationVersion(), std::nullopt);
+#endif
+}
+
+void prepareApplication()
+{
+#if defined(Q_OS_MACOS)
+    setRegularActivationPolicy();
+#endif
+}
+
+void bringApplicationToFront()
+{
+#if defined(Q_OS_MACOS)
+    activateApplication();
+#endif
+}
+
+} // namespace ferrow

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "app/menu_bar_item.h"
+
+#include <QMenu>
+#include <QSystemTrayIcon>
+
+namespace ferrow {
+
+// The menu-bar item as a system-tray icon, with the figure drawn into the icon and a menu with
+// the dashboard and the quit action.
+class TrayMenuBarItem final : public MenuBarItem {
+public:
+    TrayMenuBarItem();
+
+    void showReading(const PowerSnapshot &snapshot, bool showPower, const QString &toolTip) override;
+    QRect geometry() const override { return m_tray.geometry(); }
+
+private:
+    QMenu m_menu;
+    QSystemTrayIcon m_tray;
+};
+
+} // namespace ferrow
