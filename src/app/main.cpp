@@ -28,6 +28,7 @@ void nameApplication()
 {
     QCoreApplication::setApplicationName(QStringLiteral("Ferrow"));
     QCoreApplication::setOrganizationName(QStringLiteral("Ferrow"));
+    QCoreApplication::setOrganizationDomain(QStringLiteral("ferrow.app")); // defaults domain app.ferrow.Ferrow on macOS
     QCoreApplication::setApplicationVersion(QStringLiteral(FERROW_VERSION));
 }
 
