@@ -2,6 +2,9 @@
 
 BUILD_DIR    := build
 SANITIZE_DIR := build-sanitize
+FUZZ_DIR     := build-fuzz
+FUZZ_SECONDS ?= 60
+FUZZ_TARGETS := property_list recording profiler_json history_record smc_decode
 CMAKE_FLAGS  := -G Ninja -DFERROW_WARNINGS_AS_ERRORS=ON
 
 ifeq ($(shell uname -s),Darwin)
@@ -11,7 +14,7 @@ else
 RUN          := $(BUILD_DIR)/src/app/ferrow
 endif
 
-.PHONY: run test bench deps build build-sanitize clean
+.PHONY: run test bench fuzz deps build build-sanitize clean
 
 run: build
 	$(RUN)
@@ -22,6 +25,22 @@ test: build build-sanitize
 
 bench: build
 	@for program in $(BUILD_DIR)/bench/bench_*; do echo "== $$program"; $$program; done
+
+# Each target runs FUZZ_SECONDS on a scratch copy of its seed corpus; a crash leaves its input
+# as build-fuzz/crash-* (fix it, then add the input to fuzz/corpus/).
+fuzz:
+	@tools/install-deps.sh --fuzz
+	@test -f $(FUZZ_DIR)/build.ninja || CC=clang CXX=clang++ cmake -S . -B $(FUZZ_DIR) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+		-DFERROW_FUZZ=ON -DFERROW_SANITIZE=ON -DFERROW_BUILD_TESTS=OFF -DFERROW_BUILD_BENCHMARKS=OFF $(filter-out -G Ninja,$(CMAKE_FLAGS))
+	@cmake --build $(FUZZ_DIR) --target $(addprefix fuzz_,$(FUZZ_TARGETS))
+	@for target in $(FUZZ_TARGETS); do \
+		mkdir -p $(FUZZ_DIR)/corpus/$$target; \
+		echo "== fuzz_$$target for $(FUZZ_SECONDS) s"; \
+		$(FUZZ_DIR)/fuzz/fuzz_$$target $(FUZZ_DIR)/corpus/$$target fuzz/corpus/$$target -max_total_time=$(FUZZ_SECONDS) \
+			-artifact_prefix=$(FUZZ_DIR)/crash-$$target- -print_final_stats=1 > $(FUZZ_DIR)/fuzz_$$target.log 2>&1; \
+		status=$$?; tail -n 4 $(FUZZ_DIR)/fuzz_$$target.log; \
+		if [ $$status -ne 0 ]; then grep -A3 -E 'ERROR|runtime error' $(FUZZ_DIR)/fuzz_$$target.log | head -n 8; exit 1; fi; \
+	done
 
 deps:
 	@tools/install-deps.sh
@@ -36,4 +55,4 @@ build-sanitize: deps
 	@cmake --build $(SANITIZE_DIR)
 
 clean:
-	rm -rf $(BUILD_DIR) $(SANITIZE_DIR)
+	rm -rf $(BUILD_DIR) $(SANITIZE_DIR) $(FUZZ_DIR)

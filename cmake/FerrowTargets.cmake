@@ -14,6 +14,11 @@ if(FERROW_SANITIZE)
     target_link_options(ferrow_build_settings INTERFACE ${_ferrow_sanitizers})
 endif()
 
+if(FERROW_FUZZ)
+    # Coverage for libFuzzer in everything the fuzz targets link.
+    target_compile_options(ferrow_build_settings INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # ferrow_add_test(<name> SOURCES <files...> LIBRARIES <targets...>)
 # One Qt Test executable per unit, registered with CTest under its own name.
 function(ferrow_add_test name)

@@ -3,7 +3,9 @@
 set -euo pipefail
 
 install_debian() {
-    local packages=(cmake ninja-build g++ make pkg-config
+    local fuzz_packages=()
+    [ "${1:-}" = "--fuzz" ] && fuzz_packages=(clang libclang-rt-dev)
+    local packages=("${fuzz_packages[@]}" cmake ninja-build g++ make pkg-config
         qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-charts-dev qt6-svg-dev
         qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
         libbenchmark-dev fonts-dejavu-core)
@@ -26,6 +28,7 @@ install_macos() {
         exit 1
     fi
     local formulae=(cmake ninja qt google-benchmark)
+    [ "${1:-}" = "--fuzz" ] && formulae+=(llvm)
     local missing=()
     for formula in "${formulae[@]}"; do
         brew list --formula "$formula" >/dev/null 2>&1 || missing+=("$formula")
@@ -38,11 +41,11 @@ install_macos() {
 case "$(uname -s)" in
     Linux)
         if command -v dpkg-query >/dev/null 2>&1; then
-            install_debian
+            install_debian "${1:-}"
         else
             echo "Not a Debian-like system: install CMake, Ninja, a C++20 compiler and Qt 6.4+ yourself." >&2
         fi
         ;;
-    Darwin) install_macos ;;
+    Darwin) install_macos "${1:-}" ;;
     *) echo "Unsupported system: $(uname -s)" >&2; exit 1 ;;
 esac

@@ -21,9 +21,15 @@ TrayMenuBarItem::TrayMenuBarItem()
 
 void TrayMenuBarItem::showReading(const PowerSnapshot &snapshot, bool showPower, const QString &toolTip)
 {
-    m_tray.setIcon(renderTrayIcon(snapshot, showPower));
-    m_tray.setToolTip(toolTip);
-    m_tray.show();
+    const QString icon = QStringLiteral("%1|%2").arg(int(menuBarGlyph(snapshot))).arg(showPower ? trayIconFigure(snapshot.displayPowerW()) : QString());
+    if (icon != m_shownIcon) {
+        m_tray.setIcon(renderTrayIcon(snapshot, showPower));
+        m_shownIcon = icon;
+    }
+    if (toolTip != m_tray.toolTip())
+        m_tray.setToolTip(toolTip);
+    if (!m_tray.isVisible())
+        m_tray.show();
 }
 
 } // namespace ferrow

@@ -19,6 +19,7 @@ public:
 private:
     QMenu m_menu;
     QSystemTrayIcon m_tray;
+    QString m_shownIcon; // what the icon shows now; it is redrawn only when that changes
 };
 
 } // namespace ferrow

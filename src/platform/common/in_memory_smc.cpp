@@ -70,7 +70,7 @@ IOKitStatus InMemorySMC::callStructMethod(std::uint32_t connection, std::uint32_
         }
         return kIOKitSuccess;
     case kSMCCommandReadBytes:
-        if (entry != m_keys.end()) {
+        if (entry != m_keys.end() && !entry->second.bytes.empty()) { // an empty vector's data() may be null
             const std::vector<std::uint8_t> &bytes = entry->second.bytes;
             std::memcpy(output.bytes, bytes.data(), std::min(bytes.size(), sizeof output.bytes));
         }

@@ -235,6 +235,36 @@ private:
 
 } // namespace
 
+std::optional<Recording> parseRecording(const QByteArray &machineJson, const QString &machinePath,
+                                        const std::optional<QByteArray> &batteryPlist, const QString &batteryPath, QString *error)
+{
+    QString ignored;
+    QString &message = error ? *error : ignored;
+    Recording recording;
+    if (!MachineFileReader(machinePath).read(machineJson, recording, &message))
+        return std::nullopt;
+    if (!batteryPlist)
+        return recording;
+
+    QString problem;
+    const std::optional<PropertyValue> parsed = parsePropertyList(*batteryPlist, &problem);
+    if (!parsed) {
+        message = QStringLiteral("%1: %2").arg(batteryPath, problem);
+        return std::nullopt;
+    }
+    // `ioreg -r -a` prints a list of matching entries; the first one is the battery.
+    const PropertyValue *entry = &*parsed;
+    if (const auto *list = std::get_if<PropertyList>(&parsed->value))
+        entry = list->empty() ? nullptr : &list->front();
+    const PropertyDictionary *dictionary = propertyDictionary(entry);
+    if (!dictionary) {
+        message = QStringLiteral("%1: the first entry is not a dictionary of battery properties").arg(batteryPath);
+        return std::nullopt;
+    }
+    recording.battery = *dictionary;
+    return recording;
+}
+
 std::optional<Recording> loadRecording(const QString &folder, QString *error)
 {
     QString ignored;
@@ -244,36 +274,18 @@ std::optional<Recording> loadRecording(const QString &folder, QString *error)
         message = QStringLiteral("%1: no such recording folder").arg(folder);
         return std::nullopt;
     }
-
-    Recording recording;
     const QString machinePath = directory.filePath(QStringLiteral("machine.json"));
     const std::optional<QByteArray> machineText = readFile(machinePath, &message);
-    if (!machineText || !MachineFileReader(machinePath).read(*machineText, recording, &message))
+    if (!machineText)
         return std::nullopt;
-
     const QString batteryPath = directory.filePath(QStringLiteral("battery.plist"));
+    std::optional<QByteArray> batteryText;
     if (QFile::exists(batteryPath)) {
-        const std::optional<QByteArray> batteryText = readFile(batteryPath, &message);
+        batteryText = readFile(batteryPath, &message);
         if (!batteryText)
             return std::nullopt;
-        QString problem;
-        const std::optional<PropertyValue> parsed = parsePropertyList(*batteryText, &problem);
-        if (!parsed) {
-            message = QStringLiteral("%1: %2").arg(batteryPath, problem);
-            return std::nullopt;
-        }
-        // `ioreg -r -a` prints a list of matching entries; the first one is the battery.
-        const PropertyValue *entry = &*parsed;
-        if (const auto *list = std::get_if<PropertyList>(&parsed->value))
-            entry = list->empty() ? nullptr : &list->front();
-        const PropertyDictionary *dictionary = propertyDictionary(entry);
-        if (!dictionary) {
-            message = QStringLiteral("%1: the first entry is not a dictionary of battery properties").arg(batteryPath);
-            return std::nullopt;
-        }
-        recording.battery = *dictionary;
     }
-    return recording;
+    return parseRecording(*machineText, machinePath, batteryText, batteryPath, &message);
 }
 
 std::optional<PowerSnapshot> readRecordedSnapshot(const QString &folder, QString *error)

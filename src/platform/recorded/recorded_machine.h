@@ -31,6 +31,9 @@ struct Recording {
 // Reads a recording folder: machine.json, and battery.plist unless the machine has no battery.
 // On failure the message names the file, the place in it and the problem.
 std::optional<Recording> loadRecording(const QString &folder, QString *error);
+// The same from the files' contents; the paths only name the files in messages.
+std::optional<Recording> parseRecording(const QByteArray &machineJson, const QString &machinePath,
+                                        const std::optional<QByteArray> &batteryPlist, const QString &batteryPath, QString *error);
 
 // One reading of a recorded machine, taken after the reading that sets the chip baseline.
 std::optional<PowerSnapshot> readRecordedSnapshot(const QString &folder, QString *error);

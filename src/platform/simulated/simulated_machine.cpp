@@ -101,7 +101,7 @@ std::optional<std::vector<EnergyChannelSample>> SimulatedMachine::energyChannels
 
 std::optional<PropertyDictionary> SimulatedMachine::registryProperties(const QString &className)
 {
-    if (className != u"AppleSmartBattery" || !m_model.hasBattery())
+    if (className != u"AppleSmartBattery" || !m_model.hasBattery() || !m_batteryServicePresent)
         return std::nullopt;
     sync();
     return batteryProperties();
@@ -141,7 +141,7 @@ PropertyDictionary SimulatedMachine::batteryProperties() const
         {QStringLiteral("CycleCount"), m_model.cycleCount()},
         {QStringLiteral("DesignCycleCount9C"), 1000},
         {QStringLiteral("DeviceName"), text("bq40z651")},
-        {QStringLiteral("Serial"), text("SIMF8Y2K0NOTEBK")},
+        {QStringLiteral("Serial"), m_batterySerial},
         {QStringLiteral("BatteryCellDisconnectCount"), 0},
         {QStringLiteral("PowerTelemetryData"),
          PropertyDictionary{{QStringLiteral("SystemLoad"), rounded(s.systemPowerW * 1000)},

@@ -26,6 +26,12 @@ public:
     SimulationClock &simulationClock() { return m_clock; }
     SimulatedPowerModel &model() { return m_model; }
 
+    // Faults, for tests that want a machine misbehaving.
+    InMemorySMC &smc() { return m_smc; }
+    void setBatteryServicePresent(bool present) { m_batteryServicePresent = present; }
+    void setBatterySerial(const QString &serial) { m_batterySerial = serial; }
+    InMemoryKeyValueStore &inMemoryPreferences() { return m_preferences; }
+
     std::unique_ptr<SMCUserClient> createSMCUserClient() override;
     std::unique_ptr<EnergyReportSource> createEnergyReportSource() override;
     const Clock &clock() const override { return m_clock; }
@@ -48,6 +54,8 @@ private:
     SimulationClock m_clock;
     SimulatedPowerModel m_model;
     InMemorySMC m_smc;
+    bool m_batteryServicePresent = true;
+    QString m_batterySerial = QStringLiteral("SIMF8Y2K0NOTEBK");
 };
 
 } // namespace ferrow

@@ -30,8 +30,8 @@ public:
         m_manualUptime += step.count();
         m_manualWallOffset += step.count();
     }
-    // Manual clocks only: moves the wall clock alone, as a user setting the time would.
-    void setWallClockBack(std::chrono::nanoseconds step) { m_manualWallOffset -= step.count(); }
+    // Manual clocks only: moves the wall clock alone (either way), as a user setting the time would.
+    void moveWallClock(std::chrono::nanoseconds step) { m_manualWallOffset += step.count(); }
 
     WallTime now() const override
     {

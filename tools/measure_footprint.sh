@@ -1,0 +1,63 @@
+#!/usr/bin/env bash
+# Measures what the running application costs the machine it watches: CPU time as a share of one
+# core, and resident memory, over a period in each of three states: popover closed, popover open
+# (flow animation running), details window open. It runs the real program with the simulated
+# notebook under a virtual X server with a tray, and prints one table.
+#
+# Usage: tools/measure_footprint.sh [seconds per state, default 60]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+period=${1:-60}
+app=build/src/app/ferrow
+
+if [ "$(uname -s)" != "Linux" ]; then
+    echo "measure_footprint: needs Linux (/proc and Xvfb)" >&2
+    exit 1
+fi
+missing=()
+for tool in Xvfb:xvfb xdotool:xdotool trayer:trayer xvfb-run:xvfb; do
+    command -v "${tool%%:*}" >/dev/null 2>&1 || missing+=("${tool##*:}")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+    sudo=""; [ "$(id -u)" -ne 0 ] && sudo="sudo"
+    $sudo apt-get install -y -qq "${missing[@]}" >/dev/null
+fi
+[ -x "$app" ] || make build >/dev/null
+
+export period app
+xvfb-run -a -s "-screen 0 1280x800x24" bash -c '
+set -euo pipefail
+ticks=$(getconf CLK_TCK)
+trayer --edge top --align right --widthtype pixel --width 120 --height 26 --transparent true --alpha 0 >/dev/null 2>&1 &
+tray=$!
+sleep 1.5
+XDG_CONFIG_HOME=$(mktemp -d) "$app" >/dev/null 2>&1 &
+pid=$!
+trap "kill $pid $tray 2>/dev/null" EXIT
+sleep 4
+
+cpu_ticks() { awk "{ print \$14 + \$15 }" /proc/$pid/stat; }
+kib() { awk -v key="$1:" "\$1 == key { print \$2 }" /proc/$pid/status; }
+measure() {
+    local start end
+    start=$(cpu_ticks); sleep "$period"; end=$(cpu_ticks)
+    printf "| %-32s | %7.2f %% | %7.1f MB | %7.1f MB |\n" "$1" \
+        "$(echo "100 * ($end - $start) / ($period * $ticks)" | bc -l)" "$(echo "$(kib VmRSS) / 1024" | bc -l)" "$(echo "$(kib VmHWM) / 1024" | bc -l)"
+}
+
+echo "| State ($period s each)                | CPU (one core) | Resident | Peak resident |"
+echo "|----------------------------------|-----------|------------|------------|"
+measure "popover closed"
+
+# The tray icon sits at the right end of the tray; a click opens the popover under it.
+xdotool mousemove 1268 13 click 1
+sleep 1
+measure "popover open (flow animating)"
+
+popover=$(xdotool search --name "^FERROW$" | head -n 1)
+eval "$(xdotool getwindowgeometry --shell "$popover")"
+xdotool mousemove $((X + 215)) $((Y + 486)) click 1 # the "Open details" row
+sleep 1
+xdotool search --name "^Device details$" >/dev/null || { echo "the details window did not open" >&2; exit 1; }
+measure "details window open"
+'
