@@ -54,10 +54,10 @@ xdotool mousemove 1268 13 click 1
 sleep 1
 measure "popover open (flow animating)"
 
-popover=$(xdotool search --name "^FERROW$" | head -n 1)
+popover=$(xdotool search --onlyvisible --name "^FERROW$" | head -n 1)
 eval "$(xdotool getwindowgeometry --shell "$popover")"
-xdotool mousemove $((X + 215)) $((Y + 486)) click 1 # the "Open details" row
-sleep 1
-xdotool search --name "^Device details$" >/dev/null || { echo "the details window did not open" >&2; exit 1; }
+xdotool mousemove $((X + 215)) $((Y + 492)) click 1 # the "Open details" row
+sleep 2
+xdotool search --onlyvisible --name "^Device details$" >/dev/null || { echo "the details window did not open" >&2; exit 1; }
 measure "details window open"
 '

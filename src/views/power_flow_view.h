@@ -3,6 +3,7 @@
 #include "views/snapshot_view.h"
 
 #include <QPixmap>
+#include <QRegion>
 #include <QTimer>
 
 namespace ferrow {
@@ -30,6 +31,8 @@ protected:
 
 private:
     void updateTimer();
+    void animationTick();
+    double currentPhase() const;
     QRectF connectorRect() const;
     QString staticLayerKey() const;
     void paintStaticLayer(QPainter &painter);
@@ -39,6 +42,9 @@ private:
     // Everything but the dots, redrawn only when what it shows changes.
     QPixmap m_staticLayer;
     QString m_staticLayerKey;
+    // Each frame repaints only where the dots were and where they are now.
+    double m_phase = 0.5;
+    QRegion m_dotRegion;
 };
 
 } // namespace ferrow
