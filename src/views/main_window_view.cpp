@@ -146,22 +146,38 @@ private:
     MainSection m_section;
 };
 
-class DistributionPanel : public SnapshotView {
+// A panel of the report: its ground and header, its height from its content, and the content
+// itself, which each panel paints from the snapshot.
+class NativePanel : public SnapshotView {
 public:
-    using SnapshotView::SnapshotView;
-    QSize sizeHint() const override { return {600, heightFor(snapshot())}; }
-    static int heightFor(const PowerSnapshot &s)
-    {
-        return static_cast<int>(2 * kPanelPadding + kPanelHeader + kPanelSpacing + kRowHeight * distributionRows(s).size() + 10 + 20);
-    }
+    // Sizes the panel for the snapshot it shows.
+    void fitToContent() { setFixedHeight(static_cast<int>(2 * kPanelPadding + kPanelHeader + kPanelSpacing + contentHeight())); }
 
 protected:
+    virtual QString title() const = 0;
+    virtual Glyph glyph() const = 0;
+    virtual QColor accent() const = 0;
+    virtual double contentHeight() const = 0;
+    virtual void paintContent(QPainter &painter, const QRectF &content) const = 0;
+
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
+        paintContent(painter, paintNativePanel(painter, QRectF(rect()), title(), glyph(), accent(), ferrowPalette()));
+    }
+};
+
+class DistributionPanel : public NativePanel {
+protected:
+    QString title() const override { return localizedText("power.distribution"); }
+    Glyph glyph() const override { return Glyph::nodes; }
+    QColor accent() const override { return ferrowPalette().accent(); }
+    double contentHeight() const override { return kRowHeight * distributionRows(snapshot()).size() + 30; }
+
+    void paintContent(QPainter &painter, const QRectF &content) const override
+    {
         const FerrowPalette &palette = ferrowPalette();
-        const QRectF content = paintNativePanel(painter, QRectF(rect()), localizedText("power.distribution"), Glyph::nodes, palette.accent(), palette);
-        double y = paintValueRows(painter, content.top(), content.left(), content.width(), distributionRows(snapshot()), palette);
+        const double y = paintValueRows(painter, content.top(), content.left(), content.width(), distributionRows(snapshot()), palette);
         painter.setPen(QPen(palette.separator(), 1));
         painter.drawLine(QPointF(content.left(), y + 5.5), QPointF(content.right(), y + 5.5));
         painter.setPen(palette.secondaryText());
@@ -189,22 +205,17 @@ protected:
     }
 };
 
-class BatteryPanel : public SnapshotView {
-public:
-    using SnapshotView::SnapshotView;
-    static int heightFor(const PowerSnapshot &s)
-    {
-        const double content = s.hasBattery ? 40 + 6 + 14 + kRowHeight * 6 : 132;
-        return static_cast<int>(2 * kPanelPadding + kPanelHeader + kPanelSpacing + content);
-    }
-
+class BatteryPanel : public NativePanel {
 protected:
-    void paintEvent(QPaintEvent *) override
+    QString title() const override { return localizedText("battery.title"); }
+    Glyph glyph() const override { return Glyph::battery; }
+    QColor accent() const override { return kSystemGreen; }
+    double contentHeight() const override { return snapshot().hasBattery ? 60 + kRowHeight * 6 : 132; }
+
+    void paintContent(QPainter &painter, const QRectF &content) const override
     {
-        QPainter painter(this);
         const FerrowPalette &palette = ferrowPalette();
         const PowerSnapshot &s = snapshot();
-        const QRectF content = paintNativePanel(painter, QRectF(rect()), localizedText("battery.title"), Glyph::battery, kSystemGreen, palette);
         if (!s.hasBattery) {
             paintUnavailable(painter, content, localizedText("battery.not_detected"), localizedText("battery.not_detected_description"), palette);
             return;
@@ -221,28 +232,27 @@ protected:
     }
 };
 
-class CellsPanel : public SnapshotView {
-public:
-    using SnapshotView::SnapshotView;
+class CellsPanel : public NativePanel {
+protected:
     static constexpr double kTileHeight = 72;
-    static int heightFor(const PowerSnapshot &s)
+
+    QString title() const override { return localizedText("cells.status"); }
+    Glyph glyph() const override { return Glyph::grid; }
+    QColor accent() const override { return kCellsAccent; }
+    double contentHeight() const override
     {
-        double content = 110;
-        if (!s.cellVoltagesV.empty()) {
-            const int columns = cellGridColumns(s.cellVoltagesV.size());
-            const auto rows = static_cast<double>((s.cellVoltagesV.size() + columns - 1) / columns);
-            content = (s.cellVoltageSource ? 22 : 0) + rows * kTileHeight + (rows - 1) * 10;
-        }
-        return static_cast<int>(2 * kPanelPadding + kPanelHeader + kPanelSpacing + content);
+        const PowerSnapshot &s = snapshot();
+        if (s.cellVoltagesV.empty())
+            return 110;
+        const int columns = cellGridColumns(s.cellVoltagesV.size());
+        const auto rows = static_cast<double>((s.cellVoltagesV.size() + columns - 1) / columns);
+        return (s.cellVoltageSource ? 22 : 0) + rows * kTileHeight + (rows - 1) * 10;
     }
 
-protected:
-    void paintEvent(QPaintEvent *) override
+    void paintContent(QPainter &painter, const QRectF &content) const override
     {
-        QPainter painter(this);
         const FerrowPalette &palette = ferrowPalette();
         const PowerSnapshot &s = snapshot();
-        const QRectF content = paintNativePanel(painter, QRectF(rect()), localizedText("cells.status"), Glyph::grid, kCellsAccent, palette);
         if (s.cellVoltagesV.empty()) {
             if (s.hasBattery)
                 paintUnavailable(painter, content, localizedText("cells.no_data"), localizedText("cells.no_data_description"), palette);
@@ -280,18 +290,17 @@ protected:
     }
 };
 
-class DevicePanel : public SnapshotView {
-public:
-    using SnapshotView::SnapshotView;
-    static int heightFor() { return static_cast<int>(2 * kPanelPadding + kPanelHeader + kPanelSpacing + kRowHeight * 12 + 32); }
-
+class DevicePanel : public NativePanel {
 protected:
-    void paintEvent(QPaintEvent *) override
+    QString title() const override { return localizedText("device.title"); }
+    Glyph glyph() const override { return Glyph::info; }
+    QColor accent() const override { return ferrowPalette().accent(); }
+    double contentHeight() const override { return kRowHeight * 12 + 32; }
+
+    void paintContent(QPainter &painter, const QRectF &content) const override
     {
-        QPainter painter(this);
         const FerrowPalette &palette = ferrowPalette();
-        const QRectF content = paintNativePanel(painter, QRectF(rect()), localizedText("device.title"), Glyph::info, palette.accent(), palette);
-        double y = paintValueRows(painter, content.top(), content.left(), content.width(), deviceRows(snapshot()), palette);
+        const double y = paintValueRows(painter, content.top(), content.left(), content.width(), deviceRows(snapshot()), palette);
         painter.setPen(palette.primaryText());
         painter.setFont(uiFont(13, QFont::DemiBold));
         painter.drawText(QRectF(content.left(), y + 8, content.width(), 20), Qt::AlignLeft | Qt::AlignVCenter, localizedText("device.history"));
@@ -548,10 +557,10 @@ void MainWindowView::setSnapshot(const PowerSnapshot &s)
     m_snapshot = s;
     for (QWidget *view : m_paletteViews)
         static_cast<SnapshotView *>(view)->setSnapshot(s);
-    findChild<QWidget *>(QStringLiteral("distribution"))->setFixedHeight(DistributionPanel::heightFor(s));
-    findChild<QWidget *>(QStringLiteral("batteryPanel"))->setFixedHeight(BatteryPanel::heightFor(s));
-    findChild<QWidget *>(QStringLiteral("cellsPanel"))->setFixedHeight(CellsPanel::heightFor(s));
-    findChild<QWidget *>(QStringLiteral("devicePanel"))->setFixedHeight(DevicePanel::heightFor());
+    for (QWidget *view : m_paletteViews) {
+        if (auto *panel = dynamic_cast<NativePanel *>(view))
+            panel->fitToContent();
+    }
 
     m_sidebarStatus->setText(s.statusText());
     const QTime time = QDateTime::fromMSecsSinceEpoch(std::chrono::duration_cast<std::chrono::milliseconds>(s.updatedAt.time_since_epoch()).count())
