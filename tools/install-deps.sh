@@ -5,8 +5,8 @@ set -euo pipefail
 install_debian() {
     local fuzz_packages=()
     [ "${1:-}" = "--fuzz" ] && fuzz_packages=(clang libclang-rt-dev)
-    local packages=("${fuzz_packages[@]}" cmake ninja-build g++ make pkg-config
-        qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-charts-dev qt6-svg-dev
+    local packages=("${fuzz_packages[@]}" cmake ninja-build g++ make
+        qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-charts-dev
         qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
         libbenchmark-dev fonts-dejavu-core)
     local missing=()
