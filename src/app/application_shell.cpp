@@ -71,7 +71,8 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     m_dashboard->setVersion(applicationVersionText());
     m_dashboard->setShowPowerInMenuBar(readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true));
     m_dashboard->setLaunchAtLogin(m_loginItem->isEnabled());
-    m_dashboard->setReduceMotion(readBoolSetting(m_settings, AppSetting::reduceMotion, false));
+    // The platform's own setting where there is one; the preference otherwise.
+    m_dashboard->setReduceMotion(systemReducesMotion().value_or(readBoolSetting(m_settings, AppSetting::reduceMotion, false)));
     connect(m_dashboard, &DashboardView::detailsRequested, this, &ApplicationShell::openMainWindow);
 
     connect(m_dashboard, &DashboardView::showPowerInMenuBarToggled, this, [this](bool shown) {

@@ -55,6 +55,15 @@ QString applicationVersionText()
 #endif
 }
 
+std::optional<bool> systemReducesMotion()
+{
+#if defined(Q_OS_MACOS)
+    return ferrow::reducesMotion();
+#else
+    return std::nullopt;
+#endif
+}
+
 void prepareApplication()
 {
 #if defined(Q_OS_MACOS)

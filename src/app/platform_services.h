@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace ferrow {
 
@@ -17,6 +18,8 @@ std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier();
 std::unique_ptr<LoginItem> createLoginItem();
 // The version a user sees, from the bundle on macOS and the build elsewhere.
 QString applicationVersionText();
+// The system's reduce-motion accessibility setting, where the platform has one.
+std::optional<bool> systemReducesMotion();
 // Makes the process a regular application, where the platform distinguishes.
 void prepareApplication();
 // Brings the application to the front, even while another application is active.

@@ -19,6 +19,9 @@ public:
 // "CFBundleShortVersionString" and "CFBundleVersion" of the bundle, when they are texts.
 std::pair<std::optional<QString>, std::optional<QString>> bundleVersions();
 
+// The accessibility setting "Reduce motion".
+bool reducesMotion();
+
 // A regular application: a Dock icon and a menu, not a background agent.
 void setRegularActivationPolicy();
 // Brings the application to the front even while another application is active.

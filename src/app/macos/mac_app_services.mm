@@ -28,6 +28,11 @@ std::pair<std::optional<QString>, std::optional<QString>> bundleVersions()
     return {text(@"CFBundleShortVersionString"), text(@"CFBundleVersion")};
 }
 
+bool reducesMotion()
+{
+    return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceMotion;
+}
+
 void setRegularActivationPolicy()
 {
     [NSApp setActivationPolicy:NSApplicationActivationPolicyRegular];
