@@ -37,7 +37,8 @@ ColorScheme systemColorScheme()
 ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepWakeNotifier> sleepWake,
                                    std::unique_ptr<LoginItem> loginItem, std::unique_ptr<MenuBarItem> menuBarItem, QObject *parent)
     : QObject(parent)
-    , m_machineInfo{nullptr, machine.description, machine.isSimulated, machine.runsInRealTime}
+    , m_readsSimulation(machine.isSimulated)
+    , m_showPower(readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true))
     , m_sleepWake(std::move(sleepWake))
     , m_loginItem(std::move(loginItem))
     , m_monitor(std::make_unique<PowerMonitor>(std::make_unique<PowerSensorReader>(std::move(machine.platform)), m_sleepWake.get()))
@@ -64,18 +65,16 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     m_window->installEventFilter(this);
     m_window->setFixedSize(m_window->sizeHint());
 
-    if (m_machineInfo.isSimulated) {
-        m_dashboard->setSubtitle(localizedText(m_machineInfo.description.contains(u"desktop") ? "app.menu_subtitle_simulated_desktop"
-                                                                                                : "app.menu_subtitle_simulated"));
-    }
+    m_dashboard->setSubtitle(localizedText(machine.subtitleKey));
     m_dashboard->setVersion(applicationVersionText());
-    m_dashboard->setShowPowerInMenuBar(readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true));
+    m_dashboard->setShowPowerInMenuBar(m_showPower);
     m_dashboard->setLaunchAtLogin(m_loginItem->isEnabled());
     // The platform's own setting where there is one; the preference otherwise.
     m_dashboard->setReduceMotion(systemReducesMotion().value_or(readBoolSetting(m_settings, AppSetting::reduceMotion, false)));
     connect(m_dashboard, &DashboardView::detailsRequested, this, &ApplicationShell::openMainWindow);
 
     connect(m_dashboard, &DashboardView::showPowerInMenuBarToggled, this, [this](bool shown) {
+        m_showPower = shown;
         m_settings.setValue(AppSetting::showPowerInMenuBar, shown);
         updateTrayItem();
     });
@@ -164,8 +163,7 @@ void ApplicationShell::updateTrayItem()
         return;
     const PowerSnapshot &snapshot = m_monitor->snapshot();
     const QString figure = menuBarFigureText(snapshot) + QStringLiteral(" \u00B7 ") + snapshot.statusText();
-    m_menuBarItem->showReading(snapshot, readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true),
-                               localizedFormatText(m_machineInfo.isSimulated ? "tray.tooltip_simulated" : "tray.tooltip", figure));
+    m_menuBarItem->showReading(snapshot, m_showPower, localizedFormatText(m_readsSimulation ? "tray.tooltip_simulated" : "tray.tooltip", figure));
 }
 
 void ApplicationShell::togglePopover()

@@ -48,7 +48,8 @@ private:
     FerrowPalette currentPalette() const;
 
     QSettings m_settings;
-    OpenedMachine m_machineInfo;
+    bool m_readsSimulation;
+    bool m_showPower;
     std::unique_ptr<SleepWakeNotifier> m_sleepWake;
     std::unique_ptr<LoginItem> m_loginItem;
     std::unique_ptr<PowerMonitor> m_monitor;

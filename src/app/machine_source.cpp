@@ -25,10 +25,10 @@ std::optional<MachineSource> MachineSource::parse(const QString &text)
 std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *error)
 {
     using Kind = SimulatedPowerModel::Kind;
-    const auto simulated = [](Kind kind, const char *description) {
+    const auto simulated = [](Kind kind, const char *description, const char *subtitleKey) {
         SimulatedMachine::Options options;
         options.kind = kind;
-        return OpenedMachine{std::make_unique<SimulatedMachine>(options), QString::fromLatin1(description), true, true};
+        return OpenedMachine{std::make_unique<SimulatedMachine>(options), QString::fromLatin1(description), true, true, subtitleKey};
     };
     switch (source.kind) {
     case MachineSource::Kind::automatic:
@@ -36,9 +36,9 @@ std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *e
         return OpenedMachine{std::make_unique<MacMachine>(), QStringLiteral("this Mac"), false, true};
 #endif
     case MachineSource::Kind::simulatedNotebook:
-        return simulated(Kind::notebook, "simulated notebook");
+        return simulated(Kind::notebook, "simulated notebook", "app.menu_subtitle_simulated");
     case MachineSource::Kind::simulatedDesktop:
-        return simulated(Kind::desktop, "simulated desktop");
+        return simulated(Kind::desktop, "simulated desktop", "app.menu_subtitle_simulated_desktop");
     case MachineSource::Kind::recorded:
         break;
     }

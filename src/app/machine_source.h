@@ -24,6 +24,7 @@ struct OpenedMachine {
     QString description;    // for a subtitle or a log line: "simulated notebook", "recording foo"
     bool isSimulated = false;
     bool runsInRealTime = true; // false for a recording, which steps through its own frames
+    const char *subtitleKey = "app.menu_subtitle"; // the dashboard's subtitle, naming a simulation as such
 };
 
 // Opens the machine, or explains in one line why it could not be opened.

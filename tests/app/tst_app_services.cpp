@@ -153,23 +153,6 @@ private slots:
         QCOMPARE(ferrow::trayIconFigure(powerW.isValid() ? std::optional(powerW.toDouble()) : std::nullopt), figure);
     }
 
-    void trayIconIsDrawnAtEverySize()
-    {
-        PowerSnapshot s;
-        s.isExternalConnected = true;
-        s.dcPowerW = 61.2;
-        for (const bool showPower : {true, false}) {
-            const QIcon icon = renderTrayIcon(s, showPower);
-            QCOMPARE(icon.availableSizes().size(), 6);
-            const QImage image = icon.pixmap(QSize(32, 32)).toImage();
-            bool drawn = false;
-            for (int y = 0; y < image.height() && !drawn; ++y)
-                for (int x = 0; x < image.width() && !drawn; ++x)
-                    drawn = qAlpha(image.pixel(x, y)) > 200;
-            QVERIFY(drawn);
-        }
-    }
-
     void settingsAreReadDefensively_data()
     {
         QTest::addColumn<QVariant>("stored");

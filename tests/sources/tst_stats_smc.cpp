@@ -39,11 +39,6 @@ struct SMCFixture {
     StatsSMC smc{std::unique_ptr<SMCUserClient>(table)};
 };
 
-QByteArray toByteArray(const Bytes &bytes)
-{
-    return QByteArray(reinterpret_cast<const char *>(bytes.data()), static_cast<qsizetype>(bytes.size()));
-}
-
 Bytes fromHex(const char *hex)
 {
     const QByteArray raw = QByteArray::fromHex(hex);
@@ -256,12 +251,6 @@ private slots:
         QCOMPARE(QByteArray::fromStdString(StatsSMC::decodeType(code)), text);
     }
 
-    void encodersMatchTheDecoder()
-    {
-        QCOMPARE(toByteArray(smcBytesOfFixedPoint(26.5, 8)), QByteArray::fromHex("1a80"));
-        QCOMPARE(toByteArray(smcBytesOfUnsigned(65536, 4)), QByteArray::fromHex("00010000"));
-        QCOMPARE(toByteArray(smcBytesOfFloat(1.0f)), QByteArray::fromHex("0000803f"));
-    }
 };
 
 QTEST_GUILESS_MAIN(StatsSMCTest)

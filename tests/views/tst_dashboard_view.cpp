@@ -6,7 +6,6 @@
 #include "views/power_flow_view.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QLabel>
 #include <QTest>
 
@@ -122,19 +121,6 @@ private slots:
         QVERIFY(!flow->isAnimating());
     }
 
-    void settingsReportTheirChanges()
-    {
-        DashboardView dashboard;
-        QList<bool> launch, power;
-        connect(&dashboard, &DashboardView::launchAtLoginToggled, this, [&](bool on) { launch << on; });
-        connect(&dashboard, &DashboardView::showPowerInMenuBarToggled, this, [&](bool on) { power << on; });
-        dashboard.setShowPowerInMenuBar(true); // setting the state is not a user's change
-        QVERIFY(power.isEmpty());
-        dashboard.findChild<QCheckBox *>(QStringLiteral("showPowerInMenuBar"))->click();
-        dashboard.findChild<QCheckBox *>(QStringLiteral("launchAtLogin"))->click();
-        QCOMPARE(power, QList<bool>{false});
-        QCOMPARE(launch, QList<bool>{true});
-    }
 };
 
 QTEST_MAIN(DashboardViewTest)
