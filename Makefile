@@ -8,15 +8,16 @@ FUZZ_TARGETS := property_list recording profiler_json history_record smc_decode
 CMAKE_FLAGS  := -G Ninja -DFERROW_WARNINGS_AS_ERRORS=ON
 
 ifeq ($(shell uname -s),Darwin)
-CMAKE_FLAGS += -DCMAKE_PREFIX_PATH=$(shell brew --prefix qt 2>/dev/null)
+# Homebrew links its Qt formulae (qtbase, qtcharts, qttools) into its own prefix.
+CMAKE_FLAGS += -DCMAKE_PREFIX_PATH=$(shell brew --prefix 2>/dev/null)
 RUN          := open $(BUILD_DIR)/src/app/Ferrow.app
 else
 RUN          := $(BUILD_DIR)/src/app/ferrow
 endif
 
-.PHONY: run test bench fuzz deps build build-sanitize clean
+.PHONY: run test bench fuzz deps app build build-sanitize check-macos clean
 
-run: build
+run: app
 	$(RUN)
 
 test: build build-sanitize
@@ -45,8 +46,14 @@ fuzz:
 deps:
 	@tools/install-deps.sh
 
-build: deps
-	@test -f $(BUILD_DIR)/build.ninja || cmake -S . -B $(BUILD_DIR) $(CMAKE_FLAGS) -DCMAKE_BUILD_TYPE=RelWithDebInfo
+$(BUILD_DIR)/build.ninja:
+	@cmake -S . -B $(BUILD_DIR) $(CMAKE_FLAGS) -DCMAKE_BUILD_TYPE=RelWithDebInfo
+
+# The application alone: `make run` needs neither the tests nor the benchmarks.
+app: deps $(BUILD_DIR)/build.ninja
+	@cmake --build $(BUILD_DIR) --target ferrow
+
+build: deps $(BUILD_DIR)/build.ninja
 	@cmake --build $(BUILD_DIR)
 
 build-sanitize: deps
@@ -54,5 +61,10 @@ build-sanitize: deps
 		-DFERROW_SANITIZE=ON -DFERROW_BUILD_BENCHMARKS=OFF
 	@cmake --build $(SANITIZE_DIR)
 
+# Compiles what a Mac build compiles against an Apple SDK, on any machine: MACOS_SDK=path/to/MacOSX.sdk
+check-macos:
+	@tools/install-deps.sh --macos-check
+	@tools/check_macos_build.sh $(MACOS_SDK)
+
 clean:
-	rm -rf $(BUILD_DIR) $(SANITIZE_DIR) $(FUZZ_DIR)
+	rm -rf $(BUILD_DIR) $(SANITIZE_DIR) $(FUZZ_DIR) build-macos-check

@@ -19,6 +19,15 @@ if(FERROW_FUZZ)
     target_compile_options(ferrow_build_settings INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
+# Every test runs offscreen; sanitizer failures abort. Apple's AddressSanitizer has no leak
+# checker and refuses to start when asked for one.
+set(_ferrow_asan_options abort_on_error=1)
+if(NOT APPLE)
+    string(PREPEND _ferrow_asan_options detect_leaks=1:)
+endif()
+set(FERROW_TEST_ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=${_ferrow_asan_options};UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
+
 # ferrow_add_test(<name> SOURCES <files...> LIBRARIES <targets...>)
 # One Qt Test executable per unit, registered with CTest under its own name.
 function(ferrow_add_test name)
@@ -29,7 +38,5 @@ function(ferrow_add_test name)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES
-        TIMEOUT 120
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=detect_leaks=1:abort_on_error=1;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT "${FERROW_TEST_ENVIRONMENT}")
 endfunction()

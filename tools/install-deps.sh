@@ -3,9 +3,10 @@
 set -euo pipefail
 
 install_debian() {
-    local fuzz_packages=()
-    [ "${1:-}" = "--fuzz" ] && fuzz_packages=(clang libclang-rt-dev)
-    local packages=("${fuzz_packages[@]}" cmake ninja-build g++ make
+    local extra_packages=()
+    [ "${1:-}" = "--fuzz" ] && extra_packages=(clang libclang-rt-dev)
+    [ "${1:-}" = "--macos-check" ] && extra_packages=(clang llvm python3)
+    local packages=("${extra_packages[@]}" cmake ninja-build g++ make
         qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-charts-dev
         qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
         libbenchmark-dev fonts-dejavu-core)
@@ -27,7 +28,8 @@ install_macos() {
         echo "Ferrow builds on macOS with Homebrew (https://brew.sh); please install it first." >&2
         exit 1
     fi
-    local formulae=(cmake ninja qt google-benchmark)
+    # Qt comes in one formula per module: the base, Charts, and the tools (lrelease).
+    local formulae=(cmake ninja qtbase qtcharts qttools google-benchmark)
     [ "${1:-}" = "--fuzz" ] && formulae+=(llvm)
     local missing=()
     for formula in "${formulae[@]}"; do

@@ -12,6 +12,7 @@
 #include <atomic>
 #include <cmath>
 #include <map>
+#include <algorithm>
 #include <mutex>
 #include <random>
 #include <thread>
@@ -19,7 +20,11 @@
 #if __has_include(<sanitizer/allocator_interface.h>)
 #include <sanitizer/allocator_interface.h>
 #endif
+#if defined(__APPLE__)
+#include <malloc/malloc.h>
+#else
 #include <malloc.h>
+#endif
 
 using namespace ferrow;
 using namespace std::chrono_literals;
@@ -35,6 +40,10 @@ std::size_t allocatedBytes()
 {
 #if __has_include(<sanitizer/allocator_interface.h>) && defined(__SANITIZE_ADDRESS__)
     return __sanitizer_get_current_allocated_bytes();
+#elif defined(__APPLE__)
+    malloc_statistics_t statistics{};
+    malloc_zone_statistics(nullptr, &statistics); // every zone
+    return statistics.size_in_use;
 #else
     return mallinfo2().uordblks;
 #endif
@@ -190,11 +199,13 @@ struct Extremes {
                 kept = now;
             return ok;
         };
-        // Each comparison runs, so every kept value moves on.
-        const bool voltage = atLeast(maxVoltage, s.lifetimeMaxPackVoltageV) & atMost(minVoltage, s.lifetimeMinPackVoltageV);
-        const bool currents = atLeast(maxCharge, s.lifetimeMaxChargeCurrentA) & atLeast(maxDischarge, s.lifetimeMaxDischargeCurrentA);
-        const bool temperatures = atLeast(maxTemperature, s.lifetimeMaxTemperatureC) & atMost(minTemperature, s.lifetimeMinTemperatureC);
-        return voltage && currents && temperatures;
+        // Every comparison runs (no short circuit), so every kept value moves on.
+        const bool checks[] = {
+            atLeast(maxVoltage, s.lifetimeMaxPackVoltageV),          atMost(minVoltage, s.lifetimeMinPackVoltageV),
+            atLeast(maxCharge, s.lifetimeMaxChargeCurrentA),         atLeast(maxDischarge, s.lifetimeMaxDischargeCurrentA),
+            atLeast(maxTemperature, s.lifetimeMaxTemperatureC),      atMost(minTemperature, s.lifetimeMinTemperatureC),
+        };
+        return std::all_of(std::begin(checks), std::end(checks), [](bool ok) { return ok; });
     }
 };
 

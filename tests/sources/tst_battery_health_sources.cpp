@@ -8,7 +8,11 @@
 using namespace ferrow;
 using namespace std::chrono_literals;
 
-Q_DECLARE_METATYPE(std::optional<ferrow::PropertyList>)
+// Wrapped: Qt's meta-type would look for operator< on the optional list, which libc++ rejects hard.
+struct SourceList {
+    std::optional<ferrow::PropertyList> list;
+};
+Q_DECLARE_METATYPE(SourceList)
 
 namespace {
 
@@ -222,36 +226,36 @@ private slots:
 
     void healthCondition_data()
     {
-        QTest::addColumn<std::optional<PropertyList>>("sources");
+        QTest::addColumn<SourceList>("sources");
         QTest::addColumn<QString>("condition");
 
-        QTest::newRow("Good with a capital G") << std::optional(PropertyList{source("InternalBattery", "Good")}) << QStringLiteral("good");
-        QTest::newRow("POOR") << std::optional(PropertyList{source("InternalBattery", "POOR")}) << QStringLiteral("poor");
-        QTest::newRow("Check Battery") << std::optional(PropertyList{source("InternalBattery", "Check Battery")}) << QString();
+        QTest::newRow("Good with a capital G") << SourceList{PropertyList{source("InternalBattery", "Good")}} << QStringLiteral("good");
+        QTest::newRow("POOR") << SourceList{PropertyList{source("InternalBattery", "POOR")}} << QStringLiteral("poor");
+        QTest::newRow("Check Battery") << SourceList{PropertyList{source("InternalBattery", "Check Battery")}} << QString();
         QTest::newRow("first internal battery decides")
-            << std::optional(PropertyList{source("InternalBattery", std::nullopt), source("InternalBattery", "Fair")}) << QString();
+            << SourceList{PropertyList{source("InternalBattery", std::nullopt), source("InternalBattery", "Fair")}} << QString();
         QTest::newRow("other sources skipped")
-            << std::optional(PropertyList{source("UPS", "Poor"), source("InternalBattery", "Fair")}) << QStringLiteral("fair");
-        QTest::newRow("type is case-sensitive") << std::optional(PropertyList{source("internalbattery", "Good")}) << QString();
+            << SourceList{PropertyList{source("UPS", "Poor"), source("InternalBattery", "Fair")}} << QStringLiteral("fair");
+        QTest::newRow("type is case-sensitive") << SourceList{PropertyList{source("internalbattery", "Good")}} << QString();
         QTest::newRow("non-dictionary entries skipped")
-            << std::optional(PropertyList{QStringLiteral("junk"), UnsupportedProperty{}, source("InternalBattery", "Good")})
+            << SourceList{PropertyList{QStringLiteral("junk"), UnsupportedProperty{}, source("InternalBattery", "Good")}}
             << QStringLiteral("good");
         QTest::newRow("health not a string")
-            << std::optional(PropertyList{PropertyDictionary{{QStringLiteral("Type"), QStringLiteral("InternalBattery")},
-                                                             {QStringLiteral("BatteryHealth"), 1}}})
+            << SourceList{PropertyList{PropertyDictionary{{QStringLiteral("Type"), QStringLiteral("InternalBattery")},
+                                                             {QStringLiteral("BatteryHealth"), 1}}}}
             << QString();
-        QTest::newRow("no internal battery") << std::optional(PropertyList{source("UPS", "Good")}) << QString();
-        QTest::newRow("no list") << std::optional<PropertyList>() << QString();
+        QTest::newRow("no internal battery") << SourceList{PropertyList{source("UPS", "Good")}} << QString();
+        QTest::newRow("no list") << SourceList{} << QString();
     }
 
     void healthCondition()
     {
-        QFETCH(std::optional<PropertyList>, sources);
+        QFETCH(SourceList, sources);
         QFETCH(QString, condition);
         FakeClock clock;
         FakeRunner runner;
         FakePowerSources powerSources;
-        powerSources.descriptions = sources;
+        powerSources.descriptions = sources.list;
         BatteryHealthSources health(runner, powerSources, clock);
         const auto read = health.readBatteryHealthCondition();
         QCOMPARE(read ? rawValue(*read) : QString(), condition);

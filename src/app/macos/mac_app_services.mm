@@ -40,7 +40,10 @@ void setRegularActivationPolicy()
 
 void activateApplication()
 {
-    [NSApp activateIgnoringOtherApps:YES];
+    if (@available(macOS 14.0, *))
+        [NSApp activate];
+    else
+        [NSApp activateIgnoringOtherApps:YES];
 }
 
 } // namespace ferrow

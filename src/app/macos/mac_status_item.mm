@@ -47,10 +47,10 @@ void MacStatusItem::showReading(const PowerSnapshot &snapshot, bool showPower, c
     NSStatusBarButton *button = m_native->item.button;
     NSString *symbol = snapshot.isExternalConnected ? @"bolt.fill" : @"battery.50percent";
     NSImage *image = [NSImage imageWithSystemSymbolName:symbol accessibilityDescription:nil];
-    image.template = YES; // the menu bar recolours it for its appearance
+    [image setTemplate:YES]; // the menu bar recolours it for its appearance
     button.image = image;
     if (showPower) {
-        NSDictionary *attributes = @{NSFontAttributeName : [NSFont monospacedDigitSystemFontOfSize:12 weight:NSFontWeightSemibold]};
+        NSDictionary *attributes = @{NSFontAttributeName : [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightSemibold]};
         button.attributedTitle = [[NSAttributedString alloc] initWithString:menuBarFigureText(snapshot).toNSString() attributes:attributes];
     } else {
         button.title = @"";
