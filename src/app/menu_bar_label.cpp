@@ -21,8 +21,12 @@ QString menuBarFigureText(const PowerSnapshot &snapshot)
 {
     const std::optional<double> powerW = snapshot.displayPowerW();
     if (!powerW || !std::isfinite(*powerW))
-        return QString::fromUtf16(kAbsentText) + QStringLiteral(" W");
-    return QString::asprintf("%.1f W", *powerW);
+        return localizedText("— W");
+    // The table's text is a layout around the figure, never handed to printf as a format.
+    QString text = localizedText("%.1f W");
+    if (!text.contains(QLatin1String("%.1f")))
+        text = QStringLiteral("%.1f W");
+    return text.replace(QLatin1String("%.1f"), QString::asprintf("%.1f", *powerW));
 }
 
 QString trayIconFigure(std::optional<double> powerW)
@@ -34,6 +38,11 @@ QString trayIconFigure(std::optional<double> powerW)
 
 QIcon renderTrayIcon(const PowerSnapshot &snapshot, bool showPower)
 {
+    // Panels are light or dark and Qt cannot tell which, so the icon brings its own ground: a dark
+    // tile with white content reads on both.
+    const QColor tile(28, 28, 32, 235);
+    const QColor ink(Qt::white);
+    const QString figure = trayIconFigure(snapshot.displayPowerW());
     QIcon icon;
     for (const int side : {16, 22, 24, 32, 48, 64}) {
         QPixmap pixmap(side, side);
@@ -41,21 +50,30 @@ QIcon renderTrayIcon(const PowerSnapshot &snapshot, bool showPower)
         QPainter painter(&pixmap);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
         const QRectF box(0, 0, side, side);
+        QPainterPath ground;
+        ground.addRoundedRect(box, side * 0.22, side * 0.22);
+        painter.fillPath(ground, tile);
         if (!showPower) {
-            paintGlyph(painter, menuBarGlyph(snapshot), box.adjusted(side * 0.08, side * 0.08, -side * 0.08, -side * 0.08), Qt::white);
+            paintGlyph(painter, menuBarGlyph(snapshot), box.adjusted(side * 0.18, side * 0.18, -side * 0.18, -side * 0.18), ink);
         } else {
-            paintGlyph(painter, menuBarGlyph(snapshot), QRectF(side * 0.3, 0, side * 0.4, side * 0.36), Qt::white);
-            const QString figure = trayIconFigure(snapshot.displayPowerW());
-            QFont font = uiFont(side * 0.62, QFont::Bold);
-            const QRectF textBox(0, side * 0.34, side, side * 0.66);
-            while (font.pixelSize() > 4 && QFontMetricsF(font).horizontalAdvance(figure) > side)
-                font.setPixelSize(font.pixelSize() - 1);
-            // A dark outline keeps the white figure readable on light panels too.
-            QPainterPath text;
+            paintGlyph(painter, menuBarGlyph(snapshot), QRectF(side * 0.27, side * 0.05, side * 0.46, side * 0.38), ink);
+            // The largest figure that fits the width, with its unit where there is room for it.
+            const double width = side * 0.92;
+            QFont font = uiFont(1, QFont::Bold);
+            QString text = figure;
+            for (const QString &candidate : {figure + QStringLiteral(" W"), figure + u'W', figure}) {
+                font.setPixelSize(qRound(side * 0.5));
+                while (font.pixelSize() > 6 && QFontMetricsF(font).horizontalAdvance(candidate) > width)
+                    font.setPixelSize(font.pixelSize() - 1);
+                text = candidate;
+                if (font.pixelSize() >= side * 0.42)
+                    break;
+            }
             const QFontMetricsF metrics(font);
-            text.addText(QPointF((side - metrics.horizontalAdvance(figure)) / 2, textBox.center().y() + metrics.capHeight() / 2), font, figure);
-            painter.strokePath(text, QPen(QColor(0, 0, 0, 140), side / 16.0));
-            painter.fillPath(text, Qt::white);
+            painter.setFont(font);
+            painter.setPen(ink);
+            const double baseline = side * 0.44 + (side * 0.56 + metrics.capHeight()) / 2;
+            painter.drawText(QPointF((side - metrics.horizontalAdvance(text)) / 2, baseline), text);
         }
         painter.end();
         icon.addPixmap(pixmap);

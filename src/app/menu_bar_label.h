@@ -14,7 +14,8 @@ Glyph menuBarGlyph(const PowerSnapshot &snapshot);
 QString menuBarFigureText(const PowerSnapshot &snapshot);
 // The figure as it fits inside a square tray icon: one decimal below 10 W, whole watts above.
 QString trayIconFigure(std::optional<double> powerW);
-// A monochrome tray icon: the glyph alone, or the figure with a small glyph above it.
+// A tray icon legible on light and dark panels: the glyph alone, or the figure (with its unit
+// where it fits) under a small glyph.
 QIcon renderTrayIcon(const PowerSnapshot &snapshot, bool showPower);
 
 } // namespace ferrow

@@ -2,6 +2,9 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
+#include <limits>
+
 namespace ferrow {
 
 QString localizedText(const char *key)
@@ -19,6 +22,12 @@ QString localizedFormat(const char *key, std::initializer_list<std::int64_t> arg
         text = text.arg(static_cast<qlonglong>(argument));
     }
     return text;
+}
+
+QString localizedCount(const char *key, std::int64_t count)
+{
+    // The text table counts in int; no count shown here comes near its limit.
+    return qtTrId(key, static_cast<int>(std::clamp<std::int64_t>(count, 0, std::numeric_limits<int>::max())));
 }
 
 QString localizedFormatText(const char *key, const QString &argument)

@@ -13,6 +13,9 @@ QString localizedText(const char *key);
 // The key's text with its %1, %2 ... (or %L1 ...) placeholders filled in the current locale.
 QString localizedFormat(const char *key, std::initializer_list<std::int64_t> arguments);
 
+// A count in the key's plural form for it, its %Ln placeholder filled in the current locale.
+QString localizedCount(const char *key, std::int64_t count);
+
 // The key's text with its one %1 placeholder filled by a text.
 QString localizedFormatText(const char *key, const QString &argument);
 

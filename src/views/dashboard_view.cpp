@@ -145,6 +145,22 @@ private:
     const FerrowPalette *m_palette;
 };
 
+// A hairline across the column, in the palette's separator colour.
+class Divider : public QWidget {
+public:
+    explicit Divider(const FerrowPalette *palette) : m_palette(palette) { setFixedHeight(1); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        paintBottomSeparator(painter, QRectF(rect()), *m_palette);
+    }
+
+private:
+    const FerrowPalette *m_palette;
+};
+
 QWidget *padded(QWidget *child, int left, int top, int right, int bottom)
 {
     auto *box = new QWidget;
@@ -217,11 +233,18 @@ DashboardView::DashboardView(QWidget *parent)
     column->addWidget(meters);
     column->addWidget(m_meterCaption);
     column->addWidget(m_flow);
+    column->addWidget(new Divider(&m_palette));
     column->addWidget(padded(m_battery, 8, 8, 8, 8));
     column->addWidget(padded(m_telemetry, 8, 0, 8, 5));
     column->addWidget(padded(details, 8, 6, 8, 0));
     column->addWidget(settings);
-    column->addWidget(padded(m_website, 10, 0, 10, 0));
+    auto *footer = new QWidget;
+    auto *footerColumn = new QVBoxLayout(footer);
+    footerColumn->setContentsMargins(10, 6, 10, 0);
+    footerColumn->setSpacing(0);
+    footerColumn->addWidget(new Divider(&m_palette));
+    footerColumn->addWidget(m_website);
+    column->addWidget(footer);
     column->addStretch();
 
     setVersion(QString::fromUtf16(kAbsentText));
@@ -301,10 +324,6 @@ void DashboardView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), m_palette.panelBackground());
-    // The footer's divider sits above the website link.
-    const QRect link = m_website->parentWidget()->geometry();
-    painter.setPen(QPen(m_palette.separator(), 1));
-    painter.drawLine(QPointF(10, link.top() + 0.5), QPointF(width() - 10, link.top() + 0.5));
 }
 
 } // namespace ferrow
