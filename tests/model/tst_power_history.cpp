@@ -79,6 +79,10 @@ private slots:
             << Readings{{0, 5}, unusableAt(0), {0, 9}} << QList<double>{0} << Segments{0} << qint64(0);
         QTest::newRow("usable, unusable, usable bumps once")
             << Readings{{0, 5}, unusableAt(1), {2, 6}} << QList<double>{0, 2} << Segments{0, 1} << qint64(1);
+        QTest::newRow("an unusable reading forgets the last sample's date")
+            << Readings{{0, 5}, unusableAt(2), {4, 6}} << QList<double>{0, 4} << Segments{0, 1} << qint64(1);
+        QTest::newRow("unusable readings move the clock too")
+            << Readings{{0, 5}, unusableAt(2), {1, 6}, unusableAt(2)} << QList<double>{0} << Segments{0} << qint64(1);
         QTest::newRow("each unusable reading bumps")
             << Readings{unusableAt(0), unusableAt(1), unusableAt(2), {3, 6}} << QList<double>{3} << Segments{3} << qint64(3);
         QTest::newRow("no data on a desktop is unusable")

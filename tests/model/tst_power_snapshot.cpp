@@ -122,6 +122,8 @@ private slots:
         desktop.batteryChargePowerW = 20.0;
         QTest::newRow("no battery wins over everything") << desktop << QByteArray("status.external_power");
         QTest::newRow("no telemetry") << notebook(true, true, false, 5.0) << QByteArray("status.waiting_telemetry");
+        QTest::newRow("no telemetry wins over on battery")
+            << notebook(false, false, false, -5.0) << QByteArray("status.waiting_telemetry");
         QTest::newRow("on battery") << notebook(false, false, true, -5.0) << QByteArray("status.on_battery");
 
         const auto connected = [](bool charging, double chargeW, std::int64_t percent) {

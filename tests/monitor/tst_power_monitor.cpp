@@ -95,6 +95,7 @@ private slots:
     {
         makeMonitor();
         monitor->start();
+        QVERIFY(monitor->isRefreshing()); // the first reading is asked for at once, not on the first tick
         monitor->start();
         monitor->start();
         QVERIFY(monitor->isRunning());
@@ -205,14 +206,18 @@ private slots:
         makeMonitor();
         monitor->start();
         QTRY_COMPARE(reader->started(), 1);
-        std::thread releaser([this] {
+        std::atomic<bool> released = false;
+        std::thread releaser([this, &released] {
             std::this_thread::sleep_for(50ms);
+            released = true;
             reader->release();
         });
         monitor.reset();
+        const bool releasedBeforeDestruction = released;
         releaser.join();
         reader = nullptr;
         QCoreApplication::processEvents(); // the queued result must find nothing to call
+        QVERIFY(releasedBeforeDestruction);
     }
 };
 

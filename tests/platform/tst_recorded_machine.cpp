@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <limits>
+
 using namespace ferrow;
 using namespace ferrow::testing;
 
@@ -80,6 +82,11 @@ private slots:
 
         QTest::newRow("integers") << plist("<array><integer>42</integer><integer>-7</integer><integer>18446744073709549743</integer></array>")
                                   << PropertyValue(PropertyList{42, -7, std::uint64_t(18446744073709549743u)});
+        QTest::newRow("integers are decimal despite leading zeros")
+            << plist("<array><integer>012600</integer><integer>089</integer><integer>+5</integer><integer>-9223372036854775808</integer></array>")
+            << PropertyValue(PropertyList{12600, 89, 5, std::numeric_limits<std::int64_t>::min()});
+        QTest::newRow("hexadecimal integers") << plist("<array><integer>0x1F</integer><integer>-0X10</integer><integer>0xFFFFFFFFFFFFF82F</integer></array>")
+                                              << PropertyValue(PropertyList{31, -16, std::uint64_t(0xFFFFFFFFFFFFF82Fu)});
         QTest::newRow("real and booleans") << plist("<array><real>12.5</real><true/><false/></array>") << PropertyValue(PropertyList{12.5, true, false});
         QTest::newRow("string with entities") << plist("<string>pd &amp; charger</string>") << PropertyValue(QStringLiteral("pd & charger"));
         QTest::newRow("data") << plist("<data>\n\tAAEC\n</data>") << PropertyValue(QByteArray("\x00\x01\x02", 3));
@@ -113,6 +120,9 @@ private slots:
         QTest::newRow("stray text") << plist("<dict>oops</dict>") << QStringLiteral("unexpected text");
         QTest::newRow("not an integer") << plist("<integer>12.5</integer>") << QStringLiteral("\"12.5\" is not a 64-bit integer");
         QTest::newRow("beyond 64 bits") << plist("<integer>18446744073709551616</integer>") << QStringLiteral("not a 64-bit integer");
+        QTest::newRow("hex digit without 0x") << plist("<integer>12a</integer>") << QStringLiteral("\"12a\" is not a 64-bit integer");
+        QTest::newRow("0x without digits") << plist("<integer>0x</integer>") << QStringLiteral("\"0x\" is not a 64-bit integer");
+        QTest::newRow("below 64 bits") << plist("<integer>-9223372036854775809</integer>") << QStringLiteral("not a 64-bit integer");
         QTest::newRow("not a real") << plist("<real>warm</real>") << QStringLiteral("not a real number");
         QTest::newRow("bad base64") << plist("<data>@@@</data>") << QStringLiteral("not base64");
         QTest::newRow("truncated") << QByteArray("<plist><dict><key>a</key><integer>1</integer>") << QStringLiteral("line 1");

@@ -68,6 +68,8 @@ private slots:
                                                                << 11.40 << Volts{} << QString();
         QTest::newRow("implausible registry falls to the SMC") << true << true << Volts{1500, 3800} << true << smcCells
                                                                << 11.40 << smcCells << QStringLiteral("smc");
+        QTest::newRow("eight registry cells pass") << true << true << Volts(8, 3800) << false << Volts{} << 0.0
+                                                   << Volts(8, 3.8) << QStringLiteral("registry");
         QTest::newRow("nine registry cells fail") << true << true << Volts(9, 3800) << false << Volts{} << 0.0 << Volts{}
                                                   << QString();
         QTest::newRow("empty registry is like none") << true << true << Volts{} << true << smcCells << 11.40 << smcCells
@@ -77,6 +79,8 @@ private slots:
         QTest::newRow("pack within 3 %") << true << false << Volts{} << true << smcCells << 11.70 << smcCells
                                          << QStringLiteral("smc");
         QTest::newRow("pack off by 0.6 V") << true << false << Volts{} << true << smcCells << 12.0 << Volts{} << QString();
+        QTest::newRow("eight SMC cells") << true << false << Volts{} << true << Volts(8, 3.8) << 30.4 << Volts(8, 3.8)
+                                         << QStringLiteral("smc");
         QTest::newRow("one cell, 0.2 V floor") << true << false << Volts{} << true << Volts{4.0} << 4.15 << Volts{4.0}
                                                << QStringLiteral("smc");
         QTest::newRow("one cell, beyond the floor") << true << false << Volts{} << true << Volts{4.0} << 4.25 << Volts{}

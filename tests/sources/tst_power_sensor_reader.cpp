@@ -161,6 +161,8 @@ private slots:
             expect({{"batteryFlowW", -10}, {"batteryChargePowerW", 0}, {"isCharging", false}, {"batteryCurrentA", -1.45}}));
         row("unplugged while the battery says charging", [](FakeMachine &m) { top(m, "ExternalConnected") = false; },
             expect({{"batteryChargePowerW", 0}, {"isCharging", false}, {"batteryCurrentA", -1.45}}));
+        row("IsCharging missing: not charging", [](FakeMachine &m) { removeTop(m, "IsCharging"); setFloatKey(m, "PSTR", 29.5f); },
+            expect({{"isCharging", false}, {"batteryCurrentA", -1.45}}));
         row("charge power 0.6 W overrides IsCharging", [](FakeMachine &m) { top(m, "IsCharging") = false; setFloatKey(m, "PSTR", 29.4f); },
             expect({{"isCharging", true}}));
         row("charge power 0.5 W does not", [](FakeMachine &m) { top(m, "IsCharging") = false; setFloatKey(m, "PSTR", 29.5f); },
@@ -235,6 +237,11 @@ private slots:
             expect({{"estimatedMinutesToFull", null}}));
         row("reported time while discharging", [](FakeMachine &m) { top(m, "ExternalConnected") = false; top(m, "AvgTimeToFull") = 90; },
             expect({{"estimatedMinutesToFull", 90}}));
+        row("invalid reported time: estimate, not BatteryData's", [](FakeMachine &m) {
+                top(m, "AvgTimeToFull") = 65535;
+                nested(*m.battery, "BatteryData")[QStringLiteral("AvgTimeToFull")] = 42;
+            },
+            expect({{"estimatedMinutesToFull", 88}})); // 12.4 V × 2128 mAh at 18 W
         row("reported time from BatteryData", [](FakeMachine &m) {
                 removeTop(m, "AvgTimeToFull");
                 nested(*m.battery, "BatteryData")[QStringLiteral("AvgTimeToFull")] = 42;
@@ -283,6 +290,8 @@ private slots:
                     {"batteryPercent", 0}, {"batteryHealthPercent", null}, {"batteryHealthCondition", null}, {"cellVoltagesV", QJsonArray{}},
                     {"batteryTemperatureC", null}, {"isCharging", false}, {"lifetimeMaxPackVoltageV", null}, {"dcPowerW", 30},
                     {"systemPowerW", 12}, {"isDataAvailable", true}, {"designCapacityMAH", null}}));
+        row("BatteryInstalled missing: a battery", [](FakeMachine &m) { removeTop(m, "BatteryInstalled"); },
+            expect({{"hasBattery", true}, {"batteryPercent", 62}, {"batteryHealthPercent", 87}, {"isCharging", true}}));
         row("battery not installed", [](FakeMachine &m) { top(m, "BatteryInstalled") = false; },
             expect({{"hasBattery", false}, {"batteryPercent", 0}, {"isExternalConnected", true}, {"isCharging", false},
                     {"designCapacityMAH", 6075}, {"cycleCount", 212}, {"batteryVoltageV", 12.4}, {"batteryHealthPercent", null},
@@ -297,8 +306,13 @@ private slots:
         baseNotebook(*machine);
         setup(*machine);
         PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
-        const QString mismatches = jsonMismatches(snapshotToJson(reader.read()), expected);
+        const PowerSnapshot snapshot = reader.read();
+        const QString mismatches = jsonMismatches(snapshotToJson(snapshot), expected);
         QVERIFY2(mismatches.isEmpty(), qPrintable(mismatches));
+        if (!snapshot.hasBattery) { // no battery, no health probes: no child process, no power-source query
+            QCOMPARE(machine->profilerRuns, 0);
+            QCOMPARE(machine->powerSourceQueries, 0);
+        }
     }
 
     void powerKeysAreProbedOnce()

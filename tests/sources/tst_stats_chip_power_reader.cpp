@@ -88,6 +88,9 @@ private slots:
         QTest::newRow("cluster names by suffix")
             << Steps{{0, QList<Channel>{{"PACC0_CPU Energy", "mJ", 0}}}, {1, QList<Channel>{{"PACC0_CPU Energy", "mJ", 4000}}}}
             << QVariant(4.0) << none << none << none;
+        QTest::newRow("GPU only in the suffix")
+            << Steps{{0, QList<Channel>{{"GPU Energy", "mJ", 0}, {"GPU SRAM", "mJ", 0}}}, {1, QList<Channel>{{"GPU Energy", "mJ", 2000}, {"GPU SRAM", "mJ", 9000}}}}
+            << none << QVariant(2.0) << none << none;
         QTest::newRow("DRAM only at the start")
             << Steps{{0, QList<Channel>{{"XDRAM", "mJ", 0}, {"ANE DRAM", "mJ", 0}}}, {1, QList<Channel>{{"XDRAM", "mJ", 9000}, {"ANE DRAM", "mJ", 2000}}}}
             << none << none << QVariant(2.0) << none;

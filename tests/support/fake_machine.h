@@ -17,6 +17,7 @@ public:
     bool adapterDetails = false;
     WallTime time = WallTime() + std::chrono::hours(24 * 365 * 56);
     int profilerRuns = 0;
+    int powerSourceQueries = 0;
 
     std::unique_ptr<SMCUserClient> createSMCUserClient() override { return std::make_unique<InMemorySMCClient>(smc); }
     std::unique_ptr<EnergyReportSource> createEnergyReportSource() override { return nullptr; }
@@ -26,7 +27,11 @@ public:
     {
         return className == u"AppleSmartBattery" ? battery : std::nullopt;
     }
-    std::optional<PropertyList> powerSourceDescriptions() override { return powerSourceList; }
+    std::optional<PropertyList> powerSourceDescriptions() override
+    {
+        ++powerSourceQueries;
+        return powerSourceList;
+    }
     std::optional<CommandResult> run(const QString &, const QStringList &) override
     {
         ++profilerRuns;

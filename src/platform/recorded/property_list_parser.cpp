@@ -2,6 +2,9 @@
 
 #include <QXmlStreamReader>
 
+#include <algorithm>
+#include <limits>
+
 namespace ferrow {
 namespace {
 
@@ -117,15 +120,44 @@ private:
         if (!text)
             return std::nullopt;
         const QString trimmed = text->trimmed();
+        const std::optional<PropertyValue> value = integerValue(trimmed);
+        if (!value)
+            return fail(QStringLiteral("\"%1\" is not a 64-bit integer").arg(trimmed.left(40)));
+        return value;
+    }
+
+    // An optional sign, then decimal digits (leading zeros included: this is not C's octal) or
+    // 0x and hexadecimal digits, as the system's own property-list reader takes them.
+    static std::optional<PropertyValue> integerValue(QStringView text)
+    {
+        const bool negative = text.startsWith(u'-');
+        if (negative || text.startsWith(u'+'))
+            text = text.sliced(1);
+        int base = 10;
+        if (text.startsWith(u"0x", Qt::CaseInsensitive)) {
+            base = 16;
+            text = text.sliced(2);
+        }
+        const auto isDigit = [base](QChar c) {
+            return (c >= u'0' && c <= u'9') || (base == 16 && ((c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F')));
+        };
+        if (text.isEmpty() || !std::all_of(text.begin(), text.end(), isDigit))
+            return std::nullopt;
         bool ok = false;
-        const qlonglong signedValue = trimmed.toLongLong(&ok, 0);
-        if (ok)
-            return PropertyValue(static_cast<std::int64_t>(signedValue));
+        const std::uint64_t magnitude = text.toULongLong(&ok, base);
+        if (!ok)
+            return std::nullopt;
+        constexpr auto largestSigned = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+        if (negative) {
+            if (magnitude > largestSigned + 1)
+                return std::nullopt;
+            // Negated in unsigned arithmetic, so that the most negative value needs no overflow.
+            return PropertyValue(static_cast<std::int64_t>(0 - magnitude));
+        }
+        if (magnitude <= largestSigned)
+            return PropertyValue(static_cast<std::int64_t>(magnitude));
         // ioreg prints negative registry numbers as their unsigned 64-bit pattern.
-        const qulonglong unsignedValue = trimmed.toULongLong(&ok, 0);
-        if (ok && !trimmed.startsWith(u'-'))
-            return PropertyValue(static_cast<std::uint64_t>(unsignedValue));
-        return fail(QStringLiteral("\"%1\" is not a 64-bit integer").arg(trimmed.left(40)));
+        return PropertyValue(magnitude);
     }
 
     std::optional<PropertyValue> parseReal()
