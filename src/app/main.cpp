@@ -58,6 +58,7 @@ int main(int argc, char *argv[])
     if (!hasDisplay())
         return runHeadless(argc, argv);
 
+    prepareEnvironment();
     QApplication application(argc, argv);
     nameApplication();
     QApplication::setStyle(QStringLiteral("Fusion"));

@@ -44,15 +44,17 @@ QIcon renderTrayIcon(const PowerSnapshot &snapshot, bool showPower)
     const QColor ink(Qt::white);
     const QString figure = trayIconFigure(snapshot.displayPowerW());
     QIcon icon;
-    for (const int side : {16, 22, 24, 32, 48, 64}) {
+    for (const int side : {16, 22, 24, 32, 48}) { // what panels ask for; larger ones cost fills for nothing
         QPixmap pixmap(side, side);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
         const QRectF box(0, 0, side, side);
-        QPainterPath ground;
-        ground.addRoundedRect(box, side * 0.22, side * 0.22);
-        painter.fillPath(ground, tile);
+        painter.drawPixmap(0, 0, cachedDrawing(QStringLiteral("tray-tile"), box.size(), 1.0, [&](QPainter &ground) {
+            QPainterPath shape;
+            shape.addRoundedRect(box, side * 0.22, side * 0.22);
+            ground.fillPath(shape, tile);
+        }));
         if (!showPower) {
             paintGlyph(painter, menuBarGlyph(snapshot), box.adjusted(side * 0.18, side * 0.18, -side * 0.18, -side * 0.18), ink);
         } else {

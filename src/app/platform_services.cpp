@@ -64,6 +64,17 @@ std::optional<bool> systemReducesMotion()
 #endif
 }
 
+void prepareEnvironment()
+{
+#if defined(Q_OS_LINUX)
+    // On X11 every flush through shared memory comes back as a completion event, waking the event
+    // thread and then the main thread once per animation frame; the popover's frames are a few
+    // kilobytes, cheaper to send over the socket.
+    if (!qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"))
+        qputenv("QT_XCB_NO_MITSHM", "1");
+#endif
+}
+
 void prepareApplication()
 {
 #if defined(Q_OS_MACOS)

@@ -20,6 +20,8 @@ std::unique_ptr<LoginItem> createLoginItem();
 QString applicationVersionText();
 // The system's reduce-motion accessibility setting, where the platform has one.
 std::optional<bool> systemReducesMotion();
+// Settings of the windowing system that must be made before the application object exists.
+void prepareEnvironment();
 // Makes the process a regular application, where the platform distinguishes.
 void prepareApplication();
 // Brings the application to the front, even while another application is active.

@@ -48,12 +48,15 @@ void MeterCard::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF tile = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -1.5); // room for the shadow below
-    QPainterPath shape;
-    shape.addRoundedRect(tile, m.radius, m.radius);
-    painter.fillPath(shape.translated(0, 1), QColor(0, 0, 0, 20));
-    painter.fillPath(shape, m_color);
-    painter.setPen(QPen(QColor(255, 255, 255, static_cast<int>(255 * m.outlineAlpha)), 0.5));
-    painter.drawPath(shape);
+    const QString key = QStringLiteral("meter|%1|%2|%3").arg(m.radius).arg(m.outlineAlpha).arg(m_color.rgba());
+    painter.drawPixmap(0, 0, cachedDrawing(key, size(), paintingScale(painter), [&](QPainter &ground) {
+        QPainterPath shape;
+        shape.addRoundedRect(tile, m.radius, m.radius);
+        ground.fillPath(shape.translated(0, 1), QColor(0, 0, 0, 20));
+        ground.fillPath(shape, m_color);
+        ground.setPen(QPen(QColor(255, 255, 255, static_cast<int>(255 * m.outlineAlpha)), 0.5));
+        ground.drawPath(shape);
+    }));
 
     QFont codeFont = brandFont(m.codeSize);
     codeFont.setLetterSpacing(QFont::AbsoluteSpacing, m.codeTracking);

@@ -3,7 +3,7 @@
 #include "views/snapshot_view.h"
 
 #include <QPixmap>
-#include <QRegion>
+#include <QRect>
 #include <QTimer>
 
 namespace ferrow {
@@ -42,9 +42,9 @@ private:
     // Everything but the dots, redrawn only when what it shows changes.
     QPixmap m_staticLayer;
     QString m_staticLayerKey;
-    // Each frame repaints only where the dots were and where they are now.
+    // Each frame repaints only the box around where the dots were and where they are now.
     double m_phase = 0.5;
-    QRegion m_dotRegion;
+    QRect m_dotBounds;
 };
 
 } // namespace ferrow

@@ -4,7 +4,11 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
+#include <QPixmapCache>
 
+#include <algorithm>
+#include <functional>
 #include <cmath>
 
 namespace ferrow {
@@ -53,25 +57,43 @@ void drawFittedText(QPainter &painter, const QRectF &rect, const QString &text, 
     painter.drawText(rect, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
 }
 
+double paintingScale(const QPainter &painter)
+{
+    return std::max(painter.device()->devicePixelRatioF(), painter.deviceTransform().m11());
+}
+
+QPixmap cachedDrawing(const QString &key, const QSizeF &size, double scale, const std::function<void(QPainter &)> &draw)
+{
+    const QString fullKey = QStringLiteral("%1|%2x%3@%4").arg(key).arg(size.width()).arg(size.height()).arg(scale);
+    QPixmap drawing;
+    if (!QPixmapCache::find(fullKey, &drawing)) {
+        drawing = QPixmap((size * scale).toSize());
+        drawing.setDevicePixelRatio(scale);
+        drawing.fill(Qt::transparent);
+        QPainter painter(&drawing);
+        painter.setRenderHint(QPainter::Antialiasing);
+        draw(painter);
+        painter.end();
+        QPixmapCache::insert(fullKey, drawing);
+    }
+    return drawing;
+}
+
 void paintCardSurface(QPainter &painter, const QRectF &rect, double cornerRadius, const FerrowPalette &palette)
 {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    QPainterPath shape;
-    shape.addRoundedRect(rect, cornerRadius, cornerRadius);
-    painter.fillPath(shape, palette.cardFill());
-    painter.fillPath(shape, palette.cardTint());
-    painter.restore();
+    const QString key = QStringLiteral("card|%1|%2").arg(cornerRadius).arg(int(palette.scheme));
+    painter.drawPixmap(rect.topLeft(), cachedDrawing(key, rect.size(), paintingScale(painter), [&](QPainter &card) {
+        QPainterPath shape;
+        shape.addRoundedRect(QRectF(QPointF(0, 0), rect.size()), cornerRadius, cornerRadius);
+        card.fillPath(shape, palette.cardFill());
+        card.fillPath(shape, palette.cardTint());
+    }));
 }
 
 void paintBottomSeparator(QPainter &painter, const QRectF &rect, const FerrowPalette &palette)
 {
-    painter.save();
-    painter.setPen(QPen(palette.separator(), 1));
-    const double y = rect.bottom() - 0.5;
-    painter.drawLine(QPointF(rect.left(), y), QPointF(rect.right(), y));
-    painter.restore();
+    // A filled row of pixels rather than a stroked line: no antialiasing, no spans to blend.
+    painter.fillRect(QRectF(rect.left(), rect.bottom() - 1, rect.width(), 1), palette.separator());
 }
 
 } // namespace ferrow

@@ -3,8 +3,11 @@
 #include "views/ferrow_palette.h"
 
 #include <QFont>
+#include <QPixmap>
 #include <QRectF>
 #include <QString>
+
+#include <functional>
 
 class QPainter;
 
@@ -20,6 +23,14 @@ QFont brandFont(double size, QFont::Weight weight = QFont::DemiBold);
 // eliding, as a label that must not wrap or clip.
 void drawFittedText(QPainter &painter, const QRectF &rect, const QString &text, QFont font, double minimumScale,
                     Qt::Alignment alignment);
+
+// How many device pixels a painter puts in one unit: an image rendered at 2x differs from its widget.
+double paintingScale(const QPainter &painter);
+
+// A drawing that changes only with its key, size and scale, made once and then blitted: an
+// antialiased fill of many spans goes through the raster engine's thread pool, whose hand-offs
+// cost more than the fill itself when it is repeated every second.
+QPixmap cachedDrawing(const QString &key, const QSizeF &size, double scale, const std::function<void(QPainter &)> &draw);
 
 // The one panel background of every card: a translucent fill of the card's shape, the tint over it.
 void paintCardSurface(QPainter &painter, const QRectF &rect, double cornerRadius, const FerrowPalette &palette);
