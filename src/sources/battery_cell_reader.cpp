@@ -12,6 +12,7 @@ constexpr double kMinimumCellV = 2.0;
 constexpr double kMaximumCellV = 5.0;
 constexpr double kMinimumPackV = 2.0;
 constexpr double kMaximumPackV = 40.0;
+constexpr const char *kPackKey = "SBAV";
 
 bool isPlausibleCell(double volts)
 {
@@ -45,6 +46,15 @@ std::optional<double> readCell(StatsSMC &smc, const std::string &key)
 
 } // namespace
 
+std::vector<std::string> BatteryCellReader::smcKeys()
+{
+    std::vector<std::string> keys;
+    for (int cell = 1; cell <= kMaximumCells; ++cell)
+        keys.push_back(cellKey(cell));
+    keys.push_back(kPackKey);
+    return keys;
+}
+
 BatteryCellReader::Reading BatteryCellReader::readCells(StatsSMC &smc)
 {
     if (!m_keys) {
@@ -64,7 +74,7 @@ BatteryCellReader::Reading BatteryCellReader::readCells(StatsSMC &smc)
     Reading reading;
     for (const std::string &key : *m_keys)
         reading.cellsV.push_back(readCell(smc, key));
-    reading.packV = smc.readDouble("SBAV");
+    reading.packV = smc.readDouble(kPackKey);
     return reading;
 }
 

@@ -18,6 +18,8 @@ public:
     };
 
     static constexpr int kMaximumCells = 8;
+    // The cell keys in order, then the pack voltage's.
+    static std::vector<std::string> smcKeys();
 
     Reading readCells(StatsSMC &smc);
     // The keys found on this machine; absent until the first read, then fixed for the process.

@@ -10,6 +10,11 @@ constexpr int kFirstVersionWithSensors = 27;
 
 } // namespace
 
+std::vector<std::string> BatteryTemperatureReader::smcKeys()
+{
+    return {std::begin(kSensorKeys), std::end(kSensorKeys)};
+}
+
 bool isPlausibleBatteryTemperature(double celsius)
 {
     return std::isfinite(celsius) && celsius >= -20.0 && celsius <= 100.0;

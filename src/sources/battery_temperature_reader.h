@@ -11,6 +11,7 @@ namespace ferrow {
 // The battery temperature sensors "TB1T" and "TB2T".
 class BatteryTemperatureReader {
 public:
+    static std::vector<std::string> smcKeys();
     std::vector<std::optional<double>> readSensors(StatsSMC &smc);
     // The sensors found on this machine; absent until the first read, then fixed for the process.
     const std::optional<std::vector<std::string>> &availableKeys() const { return m_availableKeys; }

@@ -77,6 +77,14 @@ std::optional<std::int64_t> estimateMinutesToFull(std::optional<std::int64_t> vo
 
 } // namespace
 
+std::vector<std::string> PowerSensorReader::smcKeysRead()
+{
+    std::vector<std::string> keys(std::begin(kPowerKeys), std::end(kPowerKeys));
+    for (const std::vector<std::string> &more : {BatteryCellReader::smcKeys(), BatteryTemperatureReader::smcKeys()})
+        keys.insert(keys.end(), more.begin(), more.end());
+    return keys;
+}
+
 PowerSensorReader::PowerSensorReader(std::unique_ptr<MachinePlatform> platform)
     : m_platform(std::move(platform))
     , m_health(m_platform->commandRunner(), m_platform->powerSources(), m_platform->clock())

@@ -25,6 +25,9 @@ public:
 
     PowerSnapshot read() override;
 
+    // Every SMC key a reading may ask for, power, cell and temperature keys alike.
+    static std::vector<std::string> smcKeysRead();
+
     // The power keys found on the first read; absent before it, then fixed for the process.
     const std::optional<std::set<std::string>> &availableSMCKeys() const { return m_availableSMCKeys; }
 

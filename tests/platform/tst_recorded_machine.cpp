@@ -1,6 +1,9 @@
 #include "model/snapshot_json.h"
 #include "platform/recorded/property_list_parser.h"
+#include "platform/recorded/property_list_writer.h"
 #include "platform/recorded/recorded_machine.h"
+#include "platform/recorded/recording_writer.h"
+#include "platform/simulated/simulated_machine.h"
 #include "sources/power_sensor_reader.h"
 #include "support/json_compare.h"
 
@@ -105,6 +108,9 @@ private slots:
         const std::optional<PropertyValue> parsed = parsePropertyList(xml, &error);
         QVERIFY2(parsed, qPrintable(error));
         QVERIFY(*parsed == value);
+        // What a recording writes reads back as the same value.
+        if (!std::holds_alternative<UnsupportedProperty>(value.value))
+            QVERIFY(parsePropertyList(writePropertyList(value), &error) == value);
     }
 
     void brokenPropertyList_data()
@@ -165,6 +171,10 @@ private slots:
         QTest::newRow("energy without uptime") << with("\"energy\":[{\"channels\":[]}]") << QByteArray() << QStringLiteral("energy[0].uptime:");
         QTest::newRow("profiler of the wrong kind") << with("\"systemProfiler\":{\"exitStatus\":0,\"output\":12}") << QByteArray()
                                                     << QStringLiteral("systemProfiler.output:");
+        QTest::newRow("stored entry under a foreign key") << with("\"preferences\":{\"showPowerInMenuBar\":\"true\"}") << QByteArray()
+                                                          << QStringLiteral("preferences.showPowerInMenuBar: not a stored battery history entry");
+        QTest::newRow("stored entry not text") << with("\"preferences\":{\"batteryTemperatureHistory.v1.ab\":{\"maximumC\":40}}") << QByteArray()
+                                               << QStringLiteral("preferences.batteryTemperatureHistory.v1.ab: expected the stored JSON as a string");
         QTest::newRow("battery.plist broken") << good << plist("<dict><key>Voltage</key><integer>x</integer></dict>")
                                               << QStringLiteral("battery.plist: line 3, column");
         QTest::newRow("battery.plist of a list of strings") << good << plist("<array><string>x</string></array>")
@@ -190,6 +200,76 @@ private slots:
         QVERIFY(!loadRecording(folder.path(), &error));
         QVERIFY2(error.contains(message), qPrintable(error));
         QVERIFY2(error.startsWith(folder.path()), "the message names the file");
+    }
+
+    // The battery's stored extremes travel with the recording and are what the replay starts from.
+    void storedEntriesReplay_data()
+    {
+        QTest::addColumn<QString>("storedTemperature");
+        QTest::addColumn<double>("maximumC");
+        // The battery reads 33 °C; its serial's key is the SHA-256 of "F5D3107C2MZP1LRB".
+        QTest::newRow("a hotter past") << QStringLiteral("{\"maximumC\":41.5,\"minimumC\":12,\"averageC\":28,\"sampleCount\":9000}") << 41.5;
+        QTest::newRow("implausible maximum starts afresh")
+            << QStringLiteral("{\"maximumC\":900,\"minimumC\":12,\"averageC\":28,\"sampleCount\":9000}") << 33.0;
+        QTest::newRow("not JSON starts afresh") << QStringLiteral("{maximumC: 41.5") << 33.0;
+    }
+
+    void storedEntriesReplay()
+    {
+        QFETCH(QString, storedTemperature);
+        QFETCH(double, maximumC);
+        QTemporaryDir folder;
+        QVERIFY(QFile::copy(kFixtures + QStringLiteral("notebook-battery-27/battery.plist"), folder.filePath(QStringLiteral("battery.plist"))));
+        QFile fixture(kFixtures + QStringLiteral("notebook-battery-27/machine.json"));
+        QVERIFY(fixture.open(QIODevice::ReadOnly));
+        QJsonObject machine = QJsonDocument::fromJson(fixture.readAll()).object();
+        machine.insert(QStringLiteral("preferences"),
+                       QJsonObject{{QStringLiteral("batteryTemperatureHistory.v1.1e967dd7ef6af490cbd56440e0d90c21024ba580cbd35639aa27b6e112755ff8"),
+                                    storedTemperature}});
+        QFile file(folder.filePath(QStringLiteral("machine.json")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QJsonDocument(machine).toJson());
+        file.close();
+
+        QString error;
+        const std::optional<PowerSnapshot> snapshot = readRecordedSnapshot(folder.path(), &error);
+        QVERIFY2(snapshot, qPrintable(error));
+        QVERIFY(snapshot->lifetimeMaxTemperatureC);
+        QCOMPARE(*snapshot->lifetimeMaxTemperatureC, maximumC);
+    }
+
+    // A recording made through the same path as on a Mac replays as the machine read at that moment.
+    void recordingRoundTrip()
+    {
+        const SimulatedMachine::Options options{SimulatedPowerModel::Kind::notebook, 11, false, 27};
+        const auto readAt = [](SimulatedMachine *machine, PowerSensorReader &reader, int seconds) {
+            PowerSnapshot last;
+            for (int second = 0; second < seconds; ++second) {
+                machine->simulationClock().advance(std::chrono::seconds(1));
+                last = reader.read();
+            }
+            return last;
+        };
+        auto *recorded = new SimulatedMachine(options);
+        PowerSensorReader recordedReader{std::unique_ptr<MachinePlatform>(recorded)};
+        readAt(recorded, recordedReader, 300); // stored extremes to carry along
+        auto *direct = new SimulatedMachine(options);
+        PowerSensorReader directReader{std::unique_ptr<MachinePlatform>(direct)};
+        readAt(direct, directReader, 301);
+        const PowerSnapshot expected = directReader.read(); // a replay reads twice: the first sets the chip baseline
+
+        recorded->simulationClock().advance(std::chrono::seconds(1));
+        QTemporaryDir folder;
+        QString error;
+        QVERIFY2(writeRecording(*recorded, QStringLiteral("simulated notebook"),
+                                [&] { recorded->simulationClock().advance(std::chrono::seconds(1)); }, folder.path(), &error),
+                 qPrintable(error));
+        std::optional<PowerSnapshot> replayed = readRecordedSnapshot(folder.path(), &error);
+        QVERIFY2(replayed, qPrintable(error));
+
+        replayed->updatedAt = expected.updatedAt;
+        replayed->chipPower = expected.chipPower; // depends on the moment
+        QVERIFY(*replayed == expected);
     }
 
     void missingFolderIsNamed()

@@ -6,7 +6,6 @@
 #include <mach/mach_time.h>
 #include <sys/sysctl.h>
 
-#include <cstdlib>
 
 namespace ferrow {
 
@@ -20,13 +19,27 @@ std::unique_ptr<EnergyReportSource> MacMachine::createEnergyReportSource()
     return std::make_unique<IOReportEnergySource>();
 }
 
+namespace {
+
+QString sysctlText(const char *name)
+{
+    char text[128] = {};
+    size_t size = sizeof text - 1;
+    if (sysctlbyname(name, text, &size, nullptr, 0) != 0)
+        return {};
+    return QString::fromUtf8(text);
+}
+
+} // namespace
+
 int MacMachine::operatingSystemMajorVersion() const
 {
-    char version[32] = {};
-    size_t size = sizeof version - 1;
-    if (sysctlbyname("kern.osproductversion", version, &size, nullptr, 0) != 0)
-        return 0;
-    return std::atoi(version); // "26.1" reads as 26
+    return sysctlText("kern.osproductversion").section(u'.', 0, 0).toInt(); // "26.1" reads as 26
+}
+
+QString MacMachine::modelAndSystem()
+{
+    return QStringLiteral("%1, macOS %2").arg(sysctlText("hw.model"), sysctlText("kern.osproductversion"));
 }
 
 double MacMachine::uptimeSeconds() const

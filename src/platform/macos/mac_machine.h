@@ -20,6 +20,9 @@ public:
     SystemInfo &systemInfo() override { return *this; }
     const Clock &clock() const override { return *this; }
 
+    // The model identifier and the system version, as "Mac15,6, macOS 26.1", for a recording.
+    static QString modelAndSystem();
+
     int operatingSystemMajorVersion() const override;
     bool hasExternalPowerAdapterDetails() override { return m_powerSources.hasExternalPowerAdapterDetails(); }
     WallTime now() const override { return std::chrono::system_clock::now(); }

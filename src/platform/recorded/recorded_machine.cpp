@@ -1,5 +1,6 @@
 #include "platform/recorded/recorded_machine.h"
 
+#include "monitor/battery_history_store.h"
 #include "platform/recorded/property_list_parser.h"
 #include "sources/power_sensor_reader.h"
 #include "sources/stats_smc.h"
@@ -115,7 +116,8 @@ public:
 
         return readSMC(root.value(u"smc"), recording, error) && readEnergy(root.value(u"energy"), recording, error)
             && readPowerSources(root.value(u"powerSources"), recording, error)
-            && readProfiler(root.value(u"systemProfiler"), recording, error);
+            && readProfiler(root.value(u"systemProfiler"), recording, error)
+            && readPreferences(root.value(u"preferences"), recording, error);
     }
 
 private:
@@ -219,6 +221,26 @@ private:
         return true;
     }
 
+    bool readPreferences(const QJsonValue &preferences, Recording &recording, QString *error) const
+    {
+        if (preferences.isUndefined())
+            return true;
+        if (!preferences.isObject())
+            return fail(error, QStringLiteral("preferences"), QStringLiteral("expected an object of stored entries"));
+        const QJsonObject entries = preferences.toObject();
+        for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+            const QString place = QStringLiteral("preferences.%1").arg(entry.key());
+            if (!entry.key().startsWith(BatteryHistoryStore::kElectricalKeyPrefix)
+                && !entry.key().startsWith(BatteryHistoryStore::kTemperatureKeyPrefix))
+                return fail(error, place, QStringLiteral("not a stored battery history entry"));
+            if (!entry.value().isString())
+                return fail(error, place, QStringLiteral("expected the stored JSON as a string"));
+            // Kept as the text it is, valid JSON or not: the store judges it as it would on the machine.
+            recording.preferences.emplace_back(entry.key(), entry.value().toString().toUtf8());
+        }
+        return true;
+    }
+
     QString m_path;
 };
 
@@ -303,6 +325,8 @@ RecordedMachine::RecordedMachine(Recording recording)
 {
     for (const auto &[key, entry] : m_recording.smcKeys)
         m_smc.setEntry(key, entry);
+    for (const auto &[key, stored] : m_recording.preferences)
+        m_preferences.setData(key, stored);
 }
 
 std::unique_ptr<SMCUserClient> RecordedMachine::createSMCUserClient()

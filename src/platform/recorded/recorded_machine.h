@@ -26,6 +26,8 @@ struct Recording {
     std::vector<EnergyFrame> energyFrames;
     std::optional<PropertyList> powerSources;
     std::optional<CommandResult> systemProfiler;
+    // The battery's stored lifetime extremes, by their preference keys, as the store wrote them.
+    std::vector<std::pair<QString, QByteArray>> preferences;
 };
 
 // Reads a recording folder: machine.json, and battery.plist unless the machine has no battery.
