@@ -20,8 +20,8 @@
         <translation>Charging</translation>
     </message>
     <message id="status.power_connected">
-        <source>Power connected</source>
-        <translation>Power connected, not charging</translation>
+        <source>Not charging</source>
+        <translation>Not charging</translation>
     </message>
     <message id="status.fully_charged">
         <source>Fully charged</source>
@@ -58,6 +58,14 @@
     <message id="FERROW">
         <source>FERROW</source>
         <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
     </message>
     <message id="app.menu_subtitle">
         <source>Power monitor</source>
@@ -144,8 +152,8 @@
         <translation>Battery status</translation>
     </message>
     <message id="battery.estimated_full">
-        <source>Full in</source>
-        <translation>Full in</translation>
+        <source>Time to full</source>
+        <translation>Time to full</translation>
     </message>
     <message id="battery.health">
         <source>Health</source>
@@ -215,6 +223,10 @@
         <source>Take a reading now</source>
         <translation>Take a reading now</translation>
     </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>Show or hide the sidebar</translation>
+    </message>
     <message id="sidebar.monitor">
         <source>Monitor</source>
         <translation>Monitor</translation>
@@ -240,8 +252,8 @@
         <translation>Power</translation>
     </message>
     <message id="section.battery">
-        <source>Battery</source>
-        <translation>Battery</translation>
+        <source>Charge and health</source>
+        <translation>Charge and health</translation>
     </message>
     <message id="section.cells">
         <source>Cells</source>
@@ -343,9 +355,12 @@
         <source>%L1 mAh</source>
         <translation>%L1 mAh</translation>
     </message>
-    <message id="count.times">
-        <source>%L1 times</source>
-        <translation>%L1 times</translation>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln time</numerusform>
+            <numerusform>%Ln times</numerusform>
+        </translation>
     </message>
     <message id="cells.status">
         <source>Cell voltages</source>
@@ -368,8 +383,8 @@
         <translation>Read from the system management controller</translation>
     </message>
     <message id="device.title">
-        <source>Device</source>
-        <translation>Device</translation>
+        <source>This Mac</source>
+        <translation>This Mac</translation>
     </message>
     <message id="device.once_per_second">
         <source>Once a second</source>

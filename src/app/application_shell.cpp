@@ -32,6 +32,12 @@ ColorScheme systemColorScheme()
     return QGuiApplication::palette().color(QPalette::Window).lightness() < 128 ? ColorScheme::dark : ColorScheme::light;
 }
 
+// The platform's own setting where there is one; the preference otherwise.
+bool reducesMotion(const QSettings &settings)
+{
+    return systemReducesMotion().value_or(readBoolSetting(settings, AppSetting::reduceMotion, false));
+}
+
 } // namespace
 
 ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepWakeNotifier> sleepWake,
@@ -69,8 +75,7 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     m_dashboard->setVersion(applicationVersionText());
     m_dashboard->setShowPowerInMenuBar(m_showPower);
     m_dashboard->setLaunchAtLogin(m_loginItem->isEnabled());
-    // The platform's own setting where there is one; the preference otherwise.
-    m_dashboard->setReduceMotion(systemReducesMotion().value_or(readBoolSetting(m_settings, AppSetting::reduceMotion, false)));
+    m_dashboard->setReduceMotion(reducesMotion(m_settings));
     connect(m_dashboard, &DashboardView::detailsRequested, this, &ApplicationShell::openMainWindow);
 
     connect(m_dashboard, &DashboardView::showPowerInMenuBarToggled, this, [this](bool shown) {
@@ -121,6 +126,7 @@ MainWindowView *ApplicationShell::openMainWindow()
         m_mainWindow = std::make_unique<MainWindowView>();
         m_mainWindow->setFerrowPalette(currentPalette());
         m_mainWindow->setVersion(applicationVersionText());
+        m_mainWindow->setReduceMotion(reducesMotion(m_settings));
         m_mainWindow->setSnapshot(m_monitor->snapshot());
         m_mainWindow->setHistory(m_monitor->powerHistory());
         m_mainWindow->installEventFilter(this);

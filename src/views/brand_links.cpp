@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
+#include <QStyle>
 
 namespace ferrow {
 
@@ -84,8 +85,9 @@ void FerrowLogoLink::paintEvent(QPaintEvent *)
     painter.drawPixmap(frame, icon, QRectF(icon.rect()));
 }
 
-OfficialWebsiteLink::OfficialWebsiteLink(QWidget *parent)
+OfficialWebsiteLink::OfficialWebsiteLink(Qt::Alignment alignment, QWidget *parent)
     : QAbstractButton(parent)
+    , m_alignment(alignment & Qt::AlignHorizontal_Mask)
 {
     setCursor(Qt::PointingHandCursor);
     setToolTip(localizedText("action.open_official_website"));
@@ -123,7 +125,7 @@ void OfficialWebsiteLink::paintEvent(QPaintEvent *)
     font.setLetterSpacing(QFont::AbsoluteSpacing, 0.225);
     painter.setFont(font);
     painter.setPen(m_hovered ? m_palette.accent() : m_palette.secondaryText());
-    painter.drawText(QRectF(rect()).adjusted(0, 6, 0, 0), Qt::AlignHCenter | Qt::AlignTop, text());
+    painter.drawText(QRectF(rect()).adjusted(0, 6, 0, 0), QStyle::visualAlignment(layoutDirection(), m_alignment) | Qt::AlignTop, text());
 }
 
 } // namespace ferrow

@@ -34,10 +34,11 @@ private:
     QVariantAnimation m_hoverAnimation;
 };
 
-// The website's name as a link: secondary text, the accent colour while hovered.
+// The website's name as a link: secondary text, the accent colour while hovered, placed by
+// alignment in whatever width the layout gives it.
 class OfficialWebsiteLink : public QAbstractButton {
 public:
-    explicit OfficialWebsiteLink(QWidget *parent = nullptr);
+    explicit OfficialWebsiteLink(Qt::Alignment alignment = Qt::AlignHCenter, QWidget *parent = nullptr);
     void setFerrowPalette(const FerrowPalette &palette);
     QSize sizeHint() const override { return {120, 20}; }
 
@@ -47,6 +48,7 @@ protected:
     void leaveEvent(QEvent *event) override;
 
 private:
+    Qt::Alignment m_alignment;
     FerrowPalette m_palette;
     bool m_hovered = false;
 };

@@ -1,5 +1,8 @@
 #include "views/ferrow_palette.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace ferrow {
 namespace {
 
@@ -16,7 +19,47 @@ QColor grey(const FerrowPalette &palette, int darkRedGreen, int darkBlue, double
     return palette.isDark() ? rgba(darkRedGreen, darkRedGreen, darkBlue, darkOpacity) : rgba(60, 60, 67, lightOpacity);
 }
 
+QColor over(const QColor &foreground, const QColor &background)
+{
+    const double a = foreground.alphaF();
+    const auto channel = [a](double f, double b) { return f * a + b * (1 - a); };
+    return QColor::fromRgbF(static_cast<float>(channel(foreground.redF(), background.redF())),
+                            static_cast<float>(channel(foreground.greenF(), background.greenF())),
+                            static_cast<float>(channel(foreground.blueF(), background.blueF())));
+}
+
+double relativeLuminance(const QColor &color)
+{
+    const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+QColor mixed(const QColor &color, const QColor &target, double fraction)
+{
+    const auto channel = [fraction](double c, double t) { return static_cast<float>(c + (t - c) * fraction); };
+    return QColor::fromRgbF(channel(color.redF(), target.redF()), channel(color.greenF(), target.greenF()),
+                            channel(color.blueF(), target.blueF()));
+}
+
 } // namespace
+
+double contrastRatio(const QColor &foreground, const QColor &background)
+{
+    const double a = relativeLuminance(over(foreground, background)) + 0.05;
+    const double b = relativeLuminance(background) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+QColor readableOn(const QColor &color, const QColor &background, double minimumRatio)
+{
+    const QColor opaque = over(color, background);
+    // Above a luminance of 0.18 black reads at 4.58:1 or better, below it white does.
+    const QColor target = relativeLuminance(background) > 0.18 ? QColor(Qt::black) : QColor(Qt::white);
+    QColor tone = opaque;
+    for (int step = 1; step <= 100 && contrastRatio(tone, background) < minimumRatio; ++step)
+        tone = mixed(opaque, target, step / 100.0);
+    return tone;
+}
 
 QColor FerrowPalette::primaryText() const
 {

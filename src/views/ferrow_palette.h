@@ -29,6 +29,13 @@ struct FerrowPalette {
     QColor color(ColorRole role) const;
 };
 
+// The WCAG contrast ratio of two colours, from 1 (none) to 21 (black on white); a translucent
+// foreground counts as composited over the background.
+double contrastRatio(const QColor &foreground, const QColor &background);
+// The colour itself where it reads at minimumRatio on background, else the least darkened (on a
+// light background) or lightened (on a dark one) tone of it that does.
+QColor readableOn(const QColor &color, const QColor &background, double minimumRatio = 4.5);
+
 // Colours that stay the same in both appearances.
 namespace FixedColor {
 inline const QColor liveGreen{52, 199, 89};

@@ -133,6 +133,15 @@ void paintGlyph(QPainter &painter, Glyph glyph, const QRectF &box, const QColor 
         painter.drawPolygon(QPolygonF{{0.60, 0.02}, {0.86, 0.18}, {0.58, 0.32}});
         break;
     }
+    case Glyph::sidebar:
+        painter.setPen(stroke);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(rounded(0.05, 0.14, 0.90, 0.72, 0.12));
+        painter.drawLine(QPointF(0.38, 0.14), QPointF(0.38, 0.86));
+        painter.setPen(QPen(color, 0.07, Qt::SolidLine, Qt::RoundCap));
+        for (const double y : {0.32, 0.46, 0.60})
+            painter.drawLine(QPointF(0.15, y), QPointF(0.27, y));
+        break;
     }
     painter.restore();
 }

@@ -4,6 +4,9 @@
 #include "views/battery_status_model.h"
 #include "views/dashboard_model.h"
 
+#include <QLocale>
+#include <QTime>
+
 #include <algorithm>
 #include <cmath>
 
@@ -49,6 +52,30 @@ std::optional<MainSection> sectionFollowingScroll(const std::map<MainSection, do
     if (reached)
         return reached->first;
     return nearest ? std::optional(nearest->first) : std::nullopt;
+}
+
+QString timeOfDayText(const QTime &time, const QLocale &locale)
+{
+    // The long format is the one with seconds; it also names the time zone ("t", maybe in brackets
+    // or after a comma), which a clock on this machine has no need of.
+    QString format = locale.timeFormat(QLocale::LongFormat);
+    bool quoted = false;
+    for (qsizetype i = 0; i < format.size(); ++i) {
+        if (format[i] == u'\'')
+            quoted = !quoted;
+        if (quoted || format[i] != u't')
+            continue;
+        qsizetype from = i, to = i + 1;
+        if (from > 0 && to < format.size() && QStringLiteral("([").contains(format[from - 1]) && QStringLiteral(")]").contains(format[to])) {
+            --from;
+            ++to;
+        }
+        while (from > 0 && (format[from - 1] == u' ' || format[from - 1] == u','))
+            --from;
+        format.remove(from, to - from);
+        break;
+    }
+    return locale.toString(time, format.trimmed());
 }
 
 const char *overviewTitleKey(const PowerSnapshot &s)
@@ -104,7 +131,7 @@ QString capacityText(std::optional<std::int64_t> mAh)
 
 QString countText(std::optional<std::int64_t> count)
 {
-    return count ? localizedFormat("count.times", {*count}) : absent();
+    return count ? localizedCount("count.times", *count) : absent();
 }
 
 int cellGridColumns(std::size_t cellCount)

@@ -5,6 +5,9 @@
 
 #include <QString>
 
+class QLocale;
+class QTime;
+
 #include <array>
 #include <map>
 #include <optional>
@@ -21,6 +24,9 @@ const char *sectionTitleKey(MainSection section);
 // The section the sidebar follows while the user scrolls: the last one whose top has reached the
 // band 52 points under the top, else the one nearest below it.
 std::optional<MainSection> sectionFollowingScroll(const std::map<MainSection, double> &topOffsets);
+
+// A time of day in the locale's own words, to the second, without a date or a time zone.
+QString timeOfDayText(const QTime &time, const QLocale &locale);
 
 const char *overviewTitleKey(const PowerSnapshot &snapshot);
 const char *overviewSubtitleKey(const PowerSnapshot &snapshot);

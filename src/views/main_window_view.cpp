@@ -10,19 +10,23 @@
 #include "views/view_painting.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QDateTime>
 #include <QEasingCurve>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSplitter>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QVariantAnimation>
 
 namespace ferrow {
 namespace {
@@ -56,6 +60,27 @@ QColor windowBackground(const FerrowPalette &palette)
     return palette.isDark() ? QColor(36, 36, 39) : QColor(246, 246, 248);
 }
 
+QColor sidebarBackground(const FerrowPalette &palette)
+{
+    return palette.isDark() ? QColor(44, 44, 48) : QColor(232, 232, 236);
+}
+
+// A panel's fill: a shade lighter than the window, as a material over it would be.
+QColor panelGround(const FerrowPalette &palette)
+{
+    return palette.isDark() ? QColor(48, 48, 51) : QColor(253, 253, 254);
+}
+
+QIcon glyphIcon(Glyph glyph, const QColor &color)
+{
+    QPixmap pixmap(QSize(32, 32));
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paintGlyph(painter, glyph, QRectF(2, 2, 28, 28), color);
+    painter.end();
+    return QIcon(pixmap);
+}
+
 QString cssColor(const QColor &color)
 {
     return color.name(QColor::HexArgb);
@@ -70,7 +95,7 @@ QRectF paintNativePanel(QPainter &painter, const QRectF &rect, const QString &ti
     painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath shape;
     shape.addRoundedRect(rect.adjusted(0.25, 0.25, -0.25, -0.25), 14, 14);
-    painter.fillPath(shape, palette.isDark() ? QColor(255, 255, 255, 14) : QColor(255, 255, 255, 200));
+    painter.fillPath(shape, panelGround(palette));
     QColor outline = palette.separator();
     outline.setAlphaF(outline.alphaF() * 0.7f);
     painter.setPen(QPen(outline, 0.5));
@@ -85,13 +110,15 @@ QRectF paintNativePanel(QPainter &painter, const QRectF &rect, const QString &ti
     return inner.adjusted(0, kPanelHeader + kPanelSpacing, 0, 0);
 }
 
+// With legibleTints, a value's tint is darkened or lightened as far as it takes to read on the panel.
 double paintValueRows(QPainter &painter, double top, double left, double width, const std::vector<ValueRow> &rows,
-                      const FerrowPalette &palette)
+                      const FerrowPalette &palette, bool legibleTints = false)
 {
     for (const ValueRow &row : rows) {
         painter.setPen(palette.secondaryText());
         drawFittedText(painter, QRectF(left, top, width * 0.55, kRowHeight), row.label, uiFont(12), 0.85, Qt::AlignLeft);
-        painter.setPen(palette.color(row.tint));
+        const QColor tint = palette.color(row.tint);
+        painter.setPen(legibleTints ? readableOn(tint, panelGround(palette)) : tint);
         drawFittedText(painter, QRectF(left + width * 0.55, top, width * 0.45, kRowHeight), row.value, monospacedFont(12), 0.8, Qt::AlignRight);
         top += kRowHeight;
     }
@@ -177,7 +204,8 @@ protected:
     void paintContent(QPainter &painter, const QRectF &content) const override
     {
         const FerrowPalette &palette = ferrowPalette();
-        const double y = paintValueRows(painter, content.top(), content.left(), content.width(), distributionRows(snapshot()), palette);
+        // The battery's green or pink is this panel's own choice, so it has to read on a light panel too.
+        const double y = paintValueRows(painter, content.top(), content.left(), content.width(), distributionRows(snapshot()), palette, true);
         painter.setPen(QPen(palette.separator(), 1));
         painter.drawLine(QPointF(content.left(), y + 5.5), QPointF(content.right(), y + 5.5));
         painter.setPen(palette.secondaryText());
@@ -317,16 +345,40 @@ public:
         setFixedHeight(30);
         setCursor(Qt::PointingHandCursor);
         setAccessibleName(localizedFormatText("accessibility.scroll_to", localizedText(sectionTitleKey(section))));
+        m_fade.setDuration(160);
+        m_fade.setEasingCurve(QEasingCurve::OutQuad);
+        connect(&m_fade, &QVariantAnimation::valueChanged, this, [this](const QVariant &value) {
+            m_highlight = value.toDouble();
+            update();
+        });
+    }
+
+    // Puts the selection behind the row or takes it away, fading when animated.
+    void setSelected(bool selected, bool animated)
+    {
+        setChecked(selected);
+        m_fade.stop();
+        const double target = selected ? 1.0 : 0.0;
+        if (!animated || m_highlight == target) {
+            m_highlight = target;
+            update();
+            return;
+        }
+        m_fade.setStartValue(m_highlight);
+        m_fade.setEndValue(target);
+        m_fade.start();
     }
 
 protected:
+    void nextCheckState() override {} // the window decides what is selected
+
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        if (isChecked()) {
+        if (m_highlight > 0) {
             QColor highlight = m_palette->accent();
-            highlight.setAlphaF(m_palette->isDark() ? 0.26f : 0.15f);
+            highlight.setAlphaF(static_cast<float>((m_palette->isDark() ? 0.26 : 0.15) * m_highlight));
             painter.setPen(Qt::NoPen);
             painter.setBrush(highlight);
             painter.drawRoundedRect(QRectF(rect()), 6, 6);
@@ -339,6 +391,8 @@ protected:
 private:
     MainSection m_section;
     const FerrowPalette *m_palette;
+    double m_highlight = 0; // 0 without the selection, 1 with it
+    QVariantAnimation m_fade;
 };
 
 QLabel *label(const QFont &font, const QString &text = QString())
@@ -362,6 +416,12 @@ MainWindowView::MainWindowView(QWidget *parent)
 
     auto *toolbar = addToolBar(localizedText("window.device_details"));
     toolbar->setMovable(false);
+    m_sidebarToggle = toolbar->addAction(glyphIcon(Glyph::sidebar, FixedColor::macBlue), localizedText("action.toggle_sidebar"));
+    m_sidebarToggle->setObjectName(QStringLiteral("toggleSidebar"));
+    m_sidebarToggle->setCheckable(true);
+    m_sidebarToggle->setChecked(true);
+    m_sidebarToggle->setShortcut(QKeySequence(Qt::CTRL | Qt::META | Qt::Key_S));
+    connect(m_sidebarToggle, &QAction::triggered, this, &MainWindowView::setSidebarShown);
     auto *titles = new QWidget;
     auto *titleColumn = new QVBoxLayout(titles);
     titleColumn->setContentsMargins(8, 2, 8, 2);
@@ -379,23 +439,30 @@ MainWindowView::MainWindowView(QWidget *parent)
     refresh->setText(localizedText("action.refresh"));
     refresh->setToolTip(localizedText("action.refresh_help"));
     refresh->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    QPixmap refreshIcon(QSize(32, 32));
-    refreshIcon.fill(Qt::transparent);
-    {
-        QPainter painter(&refreshIcon);
-        paintGlyph(painter, Glyph::refresh, QRectF(2, 2, 28, 28), FixedColor::macBlue);
-    }
-    refresh->setIcon(QIcon(refreshIcon));
+    refresh->setIcon(glyphIcon(Glyph::refresh, FixedColor::macBlue));
     connect(refresh, &QToolButton::clicked, this, &MainWindowView::refreshRequested);
     toolbar->addWidget(refresh);
 
-    auto *central = new QWidget;
-    auto *columns = new QHBoxLayout(central);
-    columns->setContentsMargins(0, 0, 0, 0);
-    columns->setSpacing(0);
-    columns->addWidget(buildSidebar());
-    columns->addWidget(buildDetail(), 1);
-    setCentralWidget(central);
+    // The sidebar keeps its width as the window grows; the user may drag it within its bounds or
+    // collapse it (by dragging or with the toolbar's toggle).
+    m_splitter = new QSplitter(Qt::Horizontal);
+    m_splitter->setObjectName(QStringLiteral("split"));
+    m_splitter->setHandleWidth(1);
+    m_splitter->addWidget(buildSidebar());
+    m_splitter->addWidget(buildDetail());
+    m_splitter->setCollapsible(0, true);
+    m_splitter->setCollapsible(1, false);
+    m_splitter->setStretchFactor(0, 0);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setSizes({m_sidebarWidth, width() - m_sidebarWidth});
+    m_splitter->handle(1)->setAutoFillBackground(true); // a hairline between the columns
+    connect(m_splitter, &QSplitter::splitterMoved, this, [this] {
+        const int shown = m_splitter->sizes().constFirst();
+        if (shown > 0)
+            m_sidebarWidth = shown;
+        m_sidebarToggle->setChecked(shown > 0);
+    });
+    setCentralWidget(m_splitter);
 
     m_scroll->viewport()->installEventFilter(this);
     m_scrollAnimation.setTargetObject(m_scroll->verticalScrollBar());
@@ -404,7 +471,7 @@ MainWindowView::MainWindowView(QWidget *parent)
     connect(m_scroll->verticalScrollBar(), &QScrollBar::valueChanged, this, &MainWindowView::followScroll);
     connect(&m_scrollAnimation, &QPropertyAnimation::finished, this, &MainWindowView::followScroll);
 
-    setSelection(MainSection::overview);
+    setSelection(MainSection::overview, false);
     setVersion(QString::fromUtf16(kAbsentText));
     setSnapshot(m_snapshot);
     setFerrowPalette(m_palette);
@@ -416,7 +483,6 @@ QWidget *MainWindowView::buildSidebar()
     m_sidebar->setObjectName(QStringLiteral("sidebar"));
     m_sidebar->setMinimumWidth(184);
     m_sidebar->setMaximumWidth(244);
-    m_sidebar->setFixedWidth(208);
     m_sidebar->setAutoFillBackground(true);
     auto *column = new QVBoxLayout(m_sidebar);
     column->setContentsMargins(8, 10, 8, 10);
@@ -425,11 +491,15 @@ QWidget *MainWindowView::buildSidebar()
     auto *brand = new QHBoxLayout;
     brand->setContentsMargins(6, 0, 6, 8);
     brand->setSpacing(10);
-    brand->addWidget(new FerrowLogoLink(34, 8));
+    m_logo = new FerrowLogoLink(34, 8);
+    brand->addWidget(m_logo);
     auto *brandText = new QVBoxLayout;
     brandText->setSpacing(0);
+    brandText->setAlignment(Qt::AlignVCenter);
     brandText->addWidget(label(uiFont(13, QFont::DemiBold), localizedText("FERROW")));
     m_sidebarStatus = label(uiFont(11));
+    m_sidebarStatus->setObjectName(QStringLiteral("sidebarStatus"));
+    m_sidebarStatus->setWordWrap(true); // a narrow sidebar takes a longer status on two lines
     brandText->addWidget(m_sidebarStatus);
     brand->addLayout(brandText, 1);
     column->addLayout(brand);
@@ -452,6 +522,7 @@ QWidget *MainWindowView::buildSidebar()
     }
     column->addStretch();
     m_updatedAt = label(uiFont(10));
+    m_updatedAt->setObjectName(QStringLiteral("updatedAt"));
     m_updatedAt->setContentsMargins(8, 0, 8, 0);
     column->addWidget(m_updatedAt);
     return m_sidebar;
@@ -470,12 +541,16 @@ QWidget *MainWindowView::buildDetail()
     m_scroll->setWidgetResizable(true);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto *page = new QWidget;
-    auto *centring = new QHBoxLayout(page);
-    centring->setContentsMargins(0, 0, 0, 0);
+    auto *leading = new QHBoxLayout(page);
+    leading->setContentsMargins(0, 0, 0, 0);
+    leading->setSpacing(0);
+    // The column fills the window up to a comfortable reading width, then keeps to the leading edge.
     m_detailContent = new QWidget;
+    m_detailContent->setObjectName(QStringLiteral("detailColumn"));
+    m_detailContent->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_detailContent->setMaximumWidth(880);
-    centring->addWidget(m_detailContent);
-    centring->addStretch(0);
+    leading->addWidget(m_detailContent, 1);
+    leading->addStretch(0);
     auto *column = new QVBoxLayout(m_detailContent);
     column->setContentsMargins(24, 24, 24, 24);
     column->setSpacing(24);
@@ -537,14 +612,20 @@ QWidget *MainWindowView::buildDetail()
     m_scroll->setWidget(page);
     detailColumn->addWidget(m_scroll, 1);
 
+    m_footerDivider = new QWidget;
+    m_footerDivider->setObjectName(QStringLiteral("footerDivider"));
+    m_footerDivider->setFixedHeight(1);
+    m_footerDivider->setAutoFillBackground(true);
+    detailColumn->addWidget(m_footerDivider);
     auto *footer = new QWidget;
     footer->setObjectName(QStringLiteral("footer"));
     auto *footerRow = new QHBoxLayout(footer);
     footerRow->setContentsMargins(24, 10, 24, 10);
-    m_website = new OfficialWebsiteLink;
-    m_website->setFixedWidth(90);
-    footerRow->addWidget(m_website);
-    footerRow->addStretch();
+    m_website = new OfficialWebsiteLink(Qt::AlignLeading);
+    m_website->setObjectName(QStringLiteral("website"));
+    m_website->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    footerRow->addWidget(m_website, 1);
+    footerRow->addStretch(1);
     m_version = label(uiFont(10));
     m_version->setObjectName(QStringLiteral("version"));
     footerRow->addWidget(m_version);
@@ -565,7 +646,7 @@ void MainWindowView::setSnapshot(const PowerSnapshot &s)
     m_sidebarStatus->setText(s.statusText());
     const QTime time = QDateTime::fromMSecsSinceEpoch(std::chrono::duration_cast<std::chrono::milliseconds>(s.updatedAt.time_since_epoch()).count())
                            .time();
-    m_updatedAt->setText(localizedFormatText("sidebar.updated_at", QLocale().toString(time, QLocale::ShortFormat)));
+    m_updatedAt->setText(localizedFormatText("sidebar.updated_at", timeOfDayText(time, QLocale())));
     m_overviewTitle->setText(localizedText(overviewTitleKey(s)));
     m_overviewSubtitle->setText(localizedText(overviewSubtitleKey(s)));
     m_meters[0]->setValue(displayVoltageV(s));
@@ -585,6 +666,12 @@ void MainWindowView::setVersion(const QString &version)
     m_version->setText(localizedFormatText("app.version", version));
 }
 
+void MainWindowView::setReduceMotion(bool reduceMotion)
+{
+    m_reduceMotion = reduceMotion;
+    m_logo->setReduceMotion(reduceMotion);
+}
+
 void MainWindowView::setFerrowPalette(const FerrowPalette &palette)
 {
     m_palette = palette;
@@ -601,8 +688,12 @@ void MainWindowView::applyPalette()
     window.setColor(QPalette::ButtonText, p.primaryText());
     setPalette(window);
     QPalette sidebar = window;
-    sidebar.setColor(QPalette::Window, p.isDark() ? QColor(44, 44, 48) : QColor(232, 232, 236));
+    sidebar.setColor(QPalette::Window, sidebarBackground(p));
     m_sidebar->setPalette(sidebar);
+    QPalette divider = window;
+    divider.setColor(QPalette::Window, p.separator());
+    m_footerDivider->setPalette(divider);
+    m_splitter->handle(1)->setPalette(divider);
     m_scroll->viewport()->setAutoFillBackground(false);
     m_scroll->widget()->setAutoFillBackground(false);
 
@@ -611,8 +702,9 @@ void MainWindowView::applyPalette()
         colour(l, p.secondaryText());
     colour(m_updatedAt, p.tertiaryText());
     for (QLabel *l : m_sidebar->findChildren<QLabel *>()) {
+        // The headers' grey is ours to choose, so it is one that reads on the sidebar.
         if (l->property("role").toString() == u"sidebarHeader")
-            colour(l, p.secondaryText());
+            colour(l, readableOn(p.secondaryText(), sidebarBackground(p)));
     }
     for (QWidget *view : m_paletteViews)
         static_cast<SnapshotView *>(view)->setFerrowPalette(p);
@@ -622,9 +714,16 @@ void MainWindowView::applyPalette()
         row->update();
 }
 
+void MainWindowView::setSidebarShown(bool shown)
+{
+    const int total = m_splitter->width();
+    m_splitter->setSizes(shown ? QList<int>{m_sidebarWidth, total - m_sidebarWidth} : QList<int>{0, total});
+    m_sidebarToggle->setChecked(shown);
+}
+
 void MainWindowView::pickSection(MainSection section)
 {
-    setSelection(section);
+    setSelection(section, false);
     QScrollBar *bar = m_scroll->verticalScrollBar();
     const int target = std::clamp(m_blocks.at(section)->mapTo(m_scroll->widget(), QPoint(0, 0)).y() - 24, bar->minimum(), bar->maximum());
     m_scrollAnimation.stop();
@@ -633,11 +732,11 @@ void MainWindowView::pickSection(MainSection section)
     m_scrollAnimation.start();
 }
 
-void MainWindowView::setSelection(MainSection section)
+void MainWindowView::setSelection(MainSection section, bool animated)
 {
     m_selection = section;
     for (auto &[rowSection, row] : m_sidebarRows)
-        static_cast<QAbstractButton *>(row)->setChecked(rowSection == section);
+        static_cast<SidebarRow *>(row)->setSelected(rowSection == section, animated);
 }
 
 void MainWindowView::followScroll()
@@ -649,7 +748,7 @@ void MainWindowView::followScroll()
     for (const auto &[section, block] : m_blocks)
         offsets[section] = block->mapTo(m_scroll->widget(), QPoint(0, 0)).y() - scrolled;
     if (const std::optional<MainSection> followed = sectionFollowingScroll(offsets); followed && *followed != m_selection)
-        setSelection(*followed);
+        setSelection(*followed, !m_reduceMotion);
 }
 
 void MainWindowView::updateEndSpacer()

@@ -10,8 +10,10 @@
 
 #include <map>
 
+class QAction;
 class QLabel;
 class QScrollArea;
+class QSplitter;
 
 namespace ferrow {
 
@@ -31,10 +33,14 @@ public:
     void setHistory(const PowerHistory &history);
     void setFerrowPalette(const FerrowPalette &palette);
     void setVersion(const QString &version);
+    // Stills the sidebar's selection and the logo's hover.
+    void setReduceMotion(bool reduceMotion);
 
     MainSection selection() const { return m_selection; }
     void pickSection(MainSection section); // as a click on its sidebar row
     QScrollArea *detailScrollArea() const { return m_scroll; }
+    QSplitter *splitter() const { return m_splitter; }
+    QAction *sidebarToggle() const { return m_sidebarToggle; }
     QWidget *sectionBlock(MainSection section) const { return m_blocks.at(section); }
     PowerHistoryChart *historyChart() const { return m_chart; }
 
@@ -48,19 +54,26 @@ private:
     QWidget *buildSidebar();
     QWidget *buildDetail();
     void followScroll();
-    void setSelection(MainSection section);
+    void setSelection(MainSection section, bool animated);
+    void setSidebarShown(bool shown);
     void updateEndSpacer();
     void applyPalette();
 
     FerrowPalette m_palette;
     PowerSnapshot m_snapshot = PowerSnapshot::empty();
     MainSection m_selection = MainSection::overview;
+    bool m_reduceMotion = false;
+    QSplitter *m_splitter = nullptr;
+    QAction *m_sidebarToggle = nullptr;
+    int m_sidebarWidth = 208; // the width to bring the sidebar back at
     QScrollArea *m_scroll = nullptr;
     QPropertyAnimation m_scrollAnimation;
     std::map<MainSection, QWidget *> m_blocks;
     std::map<MainSection, QWidget *> m_sidebarRows;
     QWidget *m_endSpacer = nullptr;
     QWidget *m_sidebar = nullptr;
+    FerrowLogoLink *m_logo = nullptr;
+    QWidget *m_footerDivider = nullptr;
     QWidget *m_detailContent = nullptr;
     QLabel *m_sidebarStatus = nullptr;
     QLabel *m_updatedAt = nullptr;

@@ -34,14 +34,20 @@ private:
     void animationTick();
     double currentPhase() const;
     QRectF connectorRect() const;
-    QString staticLayerKey() const;
     void paintStaticLayer(QPainter &painter);
 
     QTimer m_frameTimer;
     bool m_reduceMotion = false;
-    // Everything but the dots, redrawn only when what it shows changes.
+    // Everything but the dots, redrawn only when the reading, appearance, size or scale changes.
+    struct StaticLayerKey {
+        PowerSnapshot snapshot;
+        ColorScheme scheme = ColorScheme::light;
+        QSize size;
+        qreal scale = 0;
+        bool operator==(const StaticLayerKey &) const = default;
+    };
     QPixmap m_staticLayer;
-    QString m_staticLayerKey;
+    StaticLayerKey m_staticLayerKey;
     // Each frame repaints only the box around where the dots were and where they are now.
     double m_phase = 0.5;
     QRect m_dotBounds;

@@ -7,10 +7,11 @@
 #include "views/view_painting.h"
 
 #include <QButtonGroup>
+#include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
 #include <QDateTime>
-#include <QDateTimeAxis>
+#include <QFontMetricsF>
 #include <QGraphicsLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -21,6 +22,8 @@
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QValueAxis>
+
+#include <cmath>
 
 namespace ferrow {
 namespace {
@@ -56,7 +59,88 @@ private:
     const FerrowPalette *m_palette;
 };
 
+// The hour and minute of a mark, in the locale's short time style (never with seconds).
+QString timeOfDayText(WallTime time)
+{
+    const QLocale locale;
+    QString format = locale.timeFormat(QLocale::ShortFormat);
+    format.remove(QStringLiteral(":ss"));
+    return locale.toString(QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(epochMilliseconds(time))).time(), format);
+}
+
+std::chrono::seconds localUtcOffset(WallTime time)
+{
+    return std::chrono::seconds(QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(epochMilliseconds(time))).offsetFromUtc());
+}
+
 } // namespace
+
+// One statistic under the chart: its label in the secondary colour, then 6 points on its value in
+// the primary colour with digits all of one width, so the figure does not jitter as it changes.
+// Painted as one widget, so accessibility reads label and value as one element.
+class PowerHistoryChart::Statistic : public QWidget {
+public:
+    explicit Statistic(const char *labelKey) : m_label(localizedText(labelKey)), m_value(QString::fromUtf16(kAbsentText))
+    {
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        setAccessibleName(text());
+    }
+
+    QString text() const { return m_label + u' ' + m_value; }
+
+    void setValue(const QString &value)
+    {
+        if (value == m_value)
+            return;
+        m_value = value;
+        setAccessibleName(text());
+        updateGeometry();
+        update();
+    }
+
+    void setColours(const QColor &label, const QColor &value)
+    {
+        m_labelColour = label;
+        m_valueColour = value;
+        update();
+    }
+
+    QSize sizeHint() const override
+    {
+        const QFontMetricsF label(labelFont()), value(valueFont());
+        return QSize(static_cast<int>(std::ceil(label.horizontalAdvance(m_label) + kGap + value.horizontalAdvance(m_value))),
+                     static_cast<int>(std::ceil(std::max(label.height(), value.height()))));
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const QFontMetricsF labelMetrics(labelFont()), valueMetrics(valueFont());
+        // One baseline for both, centred in the height.
+        const double ascent = std::max(labelMetrics.ascent(), valueMetrics.ascent());
+        const double descent = std::max(labelMetrics.descent(), valueMetrics.descent());
+        const double baseline = (height() - ascent - descent) / 2.0 + ascent;
+        painter.setFont(labelFont());
+        painter.setPen(m_labelColour);
+        painter.drawText(QPointF(0, baseline), m_label);
+        painter.setFont(valueFont());
+        painter.setPen(m_valueColour);
+        painter.drawText(QPointF(labelMetrics.horizontalAdvance(m_label) + kGap, baseline), m_value);
+    }
+
+private:
+    static constexpr double kGap = 6;
+    static QFont labelFont() { return uiFont(11); }
+    // Qt 6.4 cannot ask a font for its tabular figures ("tnum"); the system's fixed-pitch face has
+    // only tabular ones, as the other figures of the views do.
+    static QFont valueFont() { return monospacedFont(11); }
+
+    QString m_label;
+    QString m_value;
+    QColor m_labelColour;
+    QColor m_valueColour;
+};
 
 PowerHistoryChart::PowerHistoryChart(QWidget *parent)
     : QWidget(parent)
@@ -65,11 +149,11 @@ PowerHistoryChart::PowerHistoryChart(QWidget *parent)
     , m_body(new QStackedWidget)
     , m_chart(new QChart)
     , m_chartView(new QChartView(m_chart))
-    , m_timeAxis(new QDateTimeAxis)
+    , m_timeAxis(new QCategoryAxis)
     , m_valueAxis(new QValueAxis)
     , m_points(new QScatterSeries)
-    , m_average(new QLabel)
-    , m_peak(new QLabel)
+    , m_average(new Statistic("power_history.average"))
+    , m_peak(new Statistic("power_history.peak"))
 {
     auto *picker = new QWidget;
     picker->setObjectName(QStringLiteral("windowPicker"));
@@ -100,13 +184,17 @@ PowerHistoryChart::PowerHistoryChart(QWidget *parent)
     m_chart->layout()->setContentsMargins(0, 0, 0, 0);
     m_chart->addAxis(m_timeAxis, Qt::AlignBottom);
     m_chart->addAxis(m_valueAxis, Qt::AlignLeft);
-    m_timeAxis->setTickCount(4);
-    QString timeFormat = QLocale().timeFormat(QLocale::ShortFormat);
-    timeFormat.remove(QStringLiteral(":ss"));
-    m_timeAxis->setFormat(timeFormat);
-    m_valueAxis->setTickCount(4);
+    // The axes' names, for accessibility; the Part shows no axis titles.
+    m_timeAxis->setTitleText(localizedText("power_history.time"));
+    m_valueAxis->setTitleText(localizedText("power_history.watts"));
+    for (QAbstractAxis *axis : {static_cast<QAbstractAxis *>(m_timeAxis), static_cast<QAbstractAxis *>(m_valueAxis)})
+        axis->setTitleVisible(false);
+    // A label at each marked minute; the categories' edges are the marks.
+    m_timeAxis->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    m_valueAxis->setTickType(QValueAxis::TicksDynamic);
+    m_valueAxis->setLineVisible(false); // its marks are a grid line and a label, no tick (the plot's edge is the time axis's)
     m_valueAxis->setLabelFormat(QStringLiteral("%.0f W"));
-    m_points->setMarkerSize(5);
+    m_points->setMarkerSize(kChartPointDiameter);
     m_points->setBorderColor(Qt::transparent);
     m_chart->addSeries(m_points);
     m_points->attachAxis(m_timeAxis);
@@ -156,16 +244,18 @@ void PowerHistoryChart::setFerrowPalette(const FerrowPalette &palette)
     const auto css = [](const QColor &c) { return c.name(QColor::HexArgb); };
     m_title->setStyleSheet(QStringLiteral("color: %1").arg(css(palette.secondaryText())));
     m_title->setFont(uiFont(12));
-    for (QLabel *label : {m_average, m_peak}) {
-        label->setFont(uiFont(11));
-        label->setStyleSheet(QStringLiteral("color: %1").arg(css(palette.secondaryText())));
-    }
+    for (Statistic *statistic : {m_average, m_peak})
+        statistic->setColours(palette.secondaryText(), palette.primaryText());
     findChild<QWidget *>(QStringLiteral("windowPicker"))
-        ->setStyleSheet(QStringLiteral("#windowPicker { background: %1; border-radius: 7px; }"
-                                       "QToolButton { border: none; border-radius: 5px; padding: 3px; color: %2; background: transparent; font-size: 11px; }"
-                                       "QToolButton:checked { background: %3; }")
-                            .arg(css(palette.cardTint()), css(palette.primaryText()),
-                                 css(palette.isDark() ? QColor(255, 255, 255, 46) : QColor(255, 255, 255))));
+        ->setStyleSheet(QStringLiteral("#windowPicker { background: %1; border-radius: 7px; }").arg(css(palette.cardTint())));
+    // Each segment gets its own sheet: a sheet changed on the picker alone does not reach segments
+    // that were already styled, which kept the first appearance's text colour (white on light).
+    const QString segmentSheet =
+        QStringLiteral("QToolButton { border: none; border-radius: 5px; padding: 3px; color: %1; background: transparent; font-size: 11px; }"
+                       "QToolButton:checked { background: %2; }")
+            .arg(css(palette.primaryText()), css(palette.isDark() ? QColor(255, 255, 255, 46) : QColor(255, 255, 255)));
+    for (QAbstractButton *segment : m_windowChoices->buttons())
+        segment->setStyleSheet(segmentSheet);
     for (QAbstractAxis *axis : {static_cast<QAbstractAxis *>(m_timeAxis), static_cast<QAbstractAxis *>(m_valueAxis)}) {
         axis->setLabelsColor(palette.secondaryText());
         axis->setLabelsFont(uiFont(10));
@@ -186,13 +276,22 @@ void PowerHistoryChart::rebuild()
     const ChartStatistics statistics = chartStatistics(history, first);
     const auto &samples = history.samples();
 
-    m_average->setText(localizedText("power_history.average") + QStringLiteral("  ") + formatFigure(statistics.averageW, "%.1f W"));
-    m_peak->setText(localizedText("power_history.peak") + QStringLiteral("  ") + formatFigure(statistics.peakW, "%.1f W"));
+    m_average->setValue(formatFigure(statistics.averageW, "%.1f W"));
+    m_peak->setValue(formatFigure(statistics.peakW, "%.1f W"));
     m_body->setCurrentIndex(first < samples.size() ? 1 : 0);
 
-    m_timeAxis->setRange(QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(epochMilliseconds(window.start))),
-                         QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(epochMilliseconds(window.end))));
+    m_timeAxis->setRange(epochMilliseconds(window.start), epochMilliseconds(window.end));
+    updateTimeTicks(window);
     m_valueAxis->setRange(statistics.lowerW, statistics.upperW);
+    const ValueTicks valueTicks = valueAxisTicks(statistics.lowerW, statistics.upperW);
+    if (!valueTicks.valuesW.empty()) {
+        m_valueAxis->setTickAnchor(valueTicks.valuesW.front());
+        m_valueAxis->setTickInterval(valueTicks.stepW);
+    }
+    m_chartView->setAccessibleDescription(QStringLiteral("%1 %2\u2013%3, %4 %5\u2013%6")
+                                              .arg(m_timeAxis->titleText(), timeOfDayText(window.start), timeOfDayText(window.end),
+                                                   m_valueAxis->titleText(), QString::asprintf("%.0f", statistics.lowerW),
+                                                   QString::asprintf("%.0f W", statistics.upperW)));
 
     // One line per run; series are reused rather than made anew each second.
     std::size_t line = 0;
@@ -225,6 +324,21 @@ void PowerHistoryChart::rebuild()
     m_points->replace(m_buffer);
 }
 
+void PowerHistoryChart::updateTimeTicks(const ChartWindow &window)
+{
+    TimeTicks ticks = timeAxisTicks(window, localUtcOffset(window.end));
+    if (ticks.times == m_timeTicks)
+        return;
+    for (const QString &label : m_timeAxis->categoriesLabels())
+        m_timeAxis->remove(label);
+    // The axis also marks where its first category starts: the mark before the first, out of view.
+    if (!ticks.times.empty())
+        m_timeAxis->setStartValue(epochMilliseconds(ticks.times.front() - ticks.step));
+    for (const WallTime tick : ticks.times)
+        m_timeAxis->append(timeOfDayText(tick), epochMilliseconds(tick));
+    m_timeTicks = std::move(ticks.times);
+}
+
 int PowerHistoryChart::visibleLineCount() const
 {
     return static_cast<int>(std::count_if(m_lines.begin(), m_lines.end(), [](const QLineSeries *s) { return s->isVisible(); }));
@@ -243,6 +357,20 @@ QString PowerHistoryChart::averageText() const
 QString PowerHistoryChart::peakText() const
 {
     return m_peak->text();
+}
+
+QList<double> PowerHistoryChart::valueTicks() const
+{
+    QList<double> ticks;
+    if (m_valueAxis->tickInterval() > 0)
+        for (double value = m_valueAxis->tickAnchor(); value <= m_valueAxis->max(); value += m_valueAxis->tickInterval())
+            ticks.append(value);
+    return ticks;
+}
+
+QStringList PowerHistoryChart::timeTickLabels() const
+{
+    return m_timeAxis->categoriesLabels();
 }
 
 bool PowerHistoryChart::isWaiting() const

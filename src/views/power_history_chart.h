@@ -2,15 +2,16 @@
 
 #include "model/power_history.h"
 #include "views/ferrow_palette.h"
+#include "views/power_history_chart_model.h"
 
 #include <QWidget>
 
 #include <vector>
 
 class QButtonGroup;
+class QCategoryAxis;
 class QChart;
 class QChartView;
-class QDateTimeAxis;
 class QLabel;
 class QLineSeries;
 class QScatterSeries;
@@ -34,12 +35,19 @@ public:
 
     int visibleLineCount() const;
     qsizetype visiblePointCount() const;
+    // Each statistic as accessibility reads it: the label, then the value.
     QString averageText() const;
     QString peakText() const;
     bool isWaiting() const;
+    // The values the axes mark, as laid out at the last update.
+    QList<double> valueTicks() const;
+    QStringList timeTickLabels() const;
 
 private:
+    class Statistic;
+
     void rebuild();
+    void updateTimeTicks(const ChartWindow &window);
 
     PowerHistory m_history;
     FerrowPalette m_palette;
@@ -49,13 +57,14 @@ private:
     QStackedWidget *m_body;
     QChart *m_chart;
     QChartView *m_chartView; // made with m_chart: a view made without one would leak its own
-    QDateTimeAxis *m_timeAxis;
+    QCategoryAxis *m_timeAxis; // a label at each whole minute marked, hence categories over epoch milliseconds
     QValueAxis *m_valueAxis;
     QScatterSeries *m_points;
     std::vector<QLineSeries *> m_lines; // reused; grows only to the most runs ever on screen at once
-    QLabel *m_average;
-    QLabel *m_peak;
+    Statistic *m_average;
+    Statistic *m_peak;
     QList<QPointF> m_buffer;
+    std::vector<WallTime> m_timeTicks; // the minutes m_timeAxis marks, so its labels change only when they move
 };
 
 } // namespace ferrow

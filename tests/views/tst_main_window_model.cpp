@@ -4,7 +4,11 @@
 #include "views/power_history_chart_model.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QTest>
+#include <QTime>
+
+#include <cmath>
 
 using namespace ferrow;
 using namespace std::chrono_literals;
@@ -49,6 +53,9 @@ private slots:
         QTest::newRow("peak of 40 W") << QList<double>{10, 40, 10} << QVariant(20.0) << QVariant(40.0) << 0.0 << 46.0;
         QTest::newRow("a dip to -5 W") << QList<double>{-5, 3} << QVariant(-1.0) << QVariant(3.0) << -5.75 << 10.0;
         QTest::newRow("all negative") << QList<double>{-20, -10} << QVariant(-15.0) << QVariant(-10.0) << -23.0 << 10.0;
+        // On battery the peak is the line's highest point, the smallest draw, not the deepest dip.
+        QTest::newRow("on battery: peak is the highest point") << QList<double>{-12, -21, -6.3, -9} << QVariant(-12.075)
+                                                               << QVariant(-6.3) << -24.15 << 10.0;
     }
 
     void chartStatistics()
@@ -68,6 +75,72 @@ private slots:
             QCOMPARE(*statistics.peakW, peak.toDouble());
         QVERIFY(qAbs(statistics.lowerW - lower) < 1e-9);
         QVERIFY(qAbs(statistics.upperW - upper) < 1e-9);
+    }
+
+    void valueTicksAreRound_data()
+    {
+        QTest::addColumn<double>("lower");
+        QTest::addColumn<double>("upper");
+        QTest::addColumn<QList<double>>("ticks");
+        QTest::newRow("no readings, 0 to 10") << 0.0 << 10.0 << QList<double>{0, 2, 4, 6, 8, 10};
+        QTest::newRow("peak of 40 W, 0 to 46") << 0.0 << 46.0 << QList<double>{0, 10, 20, 30, 40};
+        QTest::newRow("peak of 50.4 W, 0 to 58") << 0.0 << 57.96 << QList<double>{0, 20, 40};
+        QTest::newRow("a dip to -5 W, -5.75 to 10") << -5.75 << 10.0 << QList<double>{-5, 0, 5, 10};
+        QTest::newRow("on battery, -24.15 to 10") << -24.15 << 10.0 << QList<double>{-20, -10, 0, 10};
+        QTest::newRow("peak of 100 W, 0 to 115") << 0.0 << 115.0 << QList<double>{0, 25, 50, 75, 100};
+        QTest::newRow("peak of 5000 W, 0 to 5750") << 0.0 << 5750.0 << QList<double>{0, 2000, 4000};
+        QTest::newRow("dip to -5000 W, -5750 to 10") << -5750.0 << 10.0 << QList<double>{-4000, -2000, 0};
+        QTest::newRow("a narrow range: never under 1 W") << 0.0 << 2.0 << QList<double>{0, 1, 2};
+        QTest::newRow("empty range: no marks") << 5.0 << 5.0 << QList<double>{};
+    }
+
+    void valueTicksAreRound()
+    {
+        QFETCH(double, lower);
+        QFETCH(double, upper);
+        QFETCH(QList<double>, ticks);
+        const ValueTicks marks = valueAxisTicks(lower, upper);
+        QCOMPARE(QList<double>(marks.valuesW.begin(), marks.valuesW.end()), ticks);
+        for (const double value : marks.valuesW) {
+            QVERIFY(value >= lower && value <= upper);
+            QVERIFY(!std::signbit(value) || value < 0); // a mark at zero reads "0 W", not "-0 W"
+        }
+        if (ticks.size() > 1)
+            QCOMPARE(marks.stepW, ticks[1] - ticks[0]);
+    }
+
+    void timeTicksOnWholeMinutes_data()
+    {
+        QTest::addColumn<int>("minutes");
+        QTest::addColumn<double>("endSecond"); // of the UTC day
+        QTest::addColumn<int>("utcOffsetMinutes");
+        QTest::addColumn<QList<int>>("localMinutes"); // of the local day
+        const double odd = (12 * 60 + 34) * 60 + 17.25; // 12:34:17.25 UTC
+        QTest::newRow("5 min at odd seconds") << 5 << odd << 0 << QList<int>{750, 751, 752, 753, 754};
+        QTest::newRow("15 min at odd seconds") << 15 << odd << 0 << QList<int>{740, 745, 750};
+        QTest::newRow("60 min at odd seconds") << 60 << odd << 0 << QList<int>{705, 720, 735, 750};
+        QTest::newRow("60 min, local time 5:30 ahead") << 60 << odd << 330 << QList<int>{1035, 1050, 1065, 1080};
+        QTest::newRow("5 min ending on a minute: both ends") << 5 << (12 * 60 + 35) * 60.0 << 0 << QList<int>{750, 751, 752, 753, 754, 755};
+        QTest::newRow("across midnight") << 15 << (24 * 60 + 7) * 60 + 30.0 << 0 << QList<int>{1435, 0, 5};
+    }
+
+    void timeTicksOnWholeMinutes()
+    {
+        QFETCH(int, minutes);
+        QFETCH(double, endSecond);
+        QFETCH(int, utcOffsetMinutes);
+        QFETCH(QList<int>, localMinutes);
+        const WallTime day = WallTime() + std::chrono::days(20000);
+        const WallTime end = day + std::chrono::duration_cast<WallTime::duration>(std::chrono::duration<double>(endSecond));
+        const std::chrono::seconds offset = std::chrono::minutes(utcOffsetMinutes);
+        const TimeTicks marks = timeAxisTicks({end - std::chrono::minutes(minutes), end}, offset);
+        QList<int> shown;
+        for (const WallTime tick : marks.times) {
+            const auto local = tick.time_since_epoch() + offset;
+            QCOMPARE(local % std::chrono::minutes(1), WallTime::duration::zero());
+            shown.append(static_cast<int>(std::chrono::duration_cast<std::chrono::minutes>(local).count() % (24 * 60)));
+        }
+        QCOMPARE(shown, localMinutes);
     }
 
     void windowEndsAtTheLastReading()
@@ -149,6 +222,29 @@ private slots:
         QFETCH(QString, text);
         QCOMPARE(ferrow::durationText(minutes.isValid() ? std::optional<std::int64_t>(minutes.toLongLong()) : std::nullopt), text);
         QVERIFY(!text.contains(u'%'));
+    }
+
+    // Seconds in the locale's own way of writing a time, and no time zone however the locale sets it off.
+    void timeOfDay_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("English (US): 12-hour clock") << QStringLiteral("en_US") << QStringLiteral("2:03:09 PM");
+        QTest::newRow("German") << QStringLiteral("de_DE") << QStringLiteral("14:03:09");
+        QTest::newRow("Basque: zone in brackets") << QStringLiteral("eu_ES") << QStringLiteral("14:03:09");
+        QTest::newRow("Belarusian: zone after a comma") << QStringLiteral("be_BY") << QStringLiteral("14:03:09");
+        QTest::newRow("Canadian French: words between") << QStringLiteral("fr_CA") << QStringLiteral("14 h 03 min 09 s");
+        QTest::newRow("Danish: dots") << QStringLiteral("da_DK") << QStringLiteral("14.03.09");
+        QTest::newRow("Chinese (Hong Kong): zone first") << QStringLiteral("zh_HK") << QStringLiteral("\u4E0B\u53482:03:09");
+    }
+
+    void timeOfDay()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, text);
+        QString shown = timeOfDayText(QTime(14, 3, 9), QLocale(locale));
+        shown.replace(QChar(0x202F), u' '); // newer locale data puts a narrow space before "PM"
+        QCOMPARE(shown, text);
     }
 
     void cells()

@@ -1,14 +1,19 @@
 #include "app/app_services.h"
 #include "app/text_table.h"
+#include "model/localized_text.h"
 #include "model/power_history.h"
 #include "platform/recorded/recorded_machine.h"
 #include "views/main_window_view.h"
 #include "views/power_history_chart.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QChartView>
+#include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QTest>
 #include <QToolButton>
 
@@ -66,7 +71,6 @@ private slots:
         window.setSnapshot(recorded(folder.toLatin1().constData()));
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QCOMPARE(window.size(), QSize(1040, 720));
         QCOMPARE(window.minimumSize(), QSize(900, 620));
         QCOMPARE(window.selection(), MainSection::overview);
 
@@ -87,6 +91,68 @@ private slots:
         bar->setValue(0);
         QCOMPARE(window.selection(), MainSection::overview);
         QCOMPARE(bar->value(), 0);
+    }
+
+    // The sidebar starts 208 wide and is dragged by dragW; the detail column fills what is left up
+    // to 880 points, from the leading edge, whether the sidebar shows or not.
+    void layoutAtWidth_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("dragW");
+        QTest::addColumn<int>("sidebarW"); // 0: collapsed
+        QTest::newRow("minimum window, sidebar narrowed past its least") << 900 << -60 << 184;
+        QTest::newRow("first size, sidebar widened past its most") << 1040 << 100 << 244;
+        QTest::newRow("wide window, sidebar a little wider") << 1400 << 20 << 228;
+        QTest::newRow("sidebar dragged away") << 1040 << -180 << 0;
+    }
+
+    void layoutAtWidth()
+    {
+        QFETCH(int, width);
+        QFETCH(int, dragW);
+        QFETCH(int, sidebarW);
+        MainWindowView window;
+        window.setSnapshot(recorded("notebook-battery-27"));
+        window.resize(width, 720);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QSplitter *split = window.splitter();
+        const auto detailColumnFills = [&] {
+            const QWidget *column = window.findChild<QWidget *>(QStringLiteral("detailColumn"));
+            QCOMPARE(column->x(), 0);
+            QCOMPARE(column->width(), std::min(880, window.detailScrollArea()->viewport()->width()));
+        };
+        QCOMPARE(split->sizes().constFirst(), 208);
+        detailColumnFills();
+
+        QWidget *handle = split->handle(1);
+        const QPoint grip(handle->width() / 2, handle->height() / 2);
+        QTest::mousePress(handle, Qt::LeftButton, {}, grip);
+        QTest::mouseMove(handle, grip + QPoint(dragW, 0));
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, grip + QPoint(dragW, 0));
+        const int draggedW = split->sizes().constFirst();
+        QVERIFY2(qAbs(draggedW - sidebarW) <= 2, qPrintable(QString::number(draggedW))); // the thin handle's grip is 2 points off its line
+        QCOMPARE(window.sidebarToggle()->isChecked(), sidebarW > 0);
+        QTRY_VERIFY(window.findChild<QWidget *>(QStringLiteral("detailColumn"))->width() == std::min(880, window.detailScrollArea()->viewport()->width()));
+
+        // The toggle hides the sidebar and brings it back as wide as it was last shown.
+        if (sidebarW > 0)
+            window.sidebarToggle()->trigger();
+        QCOMPARE(split->sizes().constFirst(), 0);
+        window.sidebarToggle()->trigger();
+        QCOMPARE(split->sizes().constFirst(), sidebarW > 0 ? draggedW : 208);
+
+        // A long status takes a second line rather than being cut.
+        QLabel *status = window.findChild<QLabel *>(QStringLiteral("sidebarStatus"));
+        status->setText(QStringLiteral("Power connected, not charging"));
+        QTRY_VERIFY(status->height() >= status->heightForWidth(status->width()));
+        QVERIFY(status->geometry().right() < window.findChild<QWidget *>(QStringLiteral("sidebar"))->width());
+
+        // The footer sits right under its divider, which sits right under the scrolling column.
+        const QWidget *divider = window.findChild<QWidget *>(QStringLiteral("footerDivider"));
+        QVERIFY(divider);
+        QCOMPARE(divider->y(), window.detailScrollArea()->geometry().bottom() + 1);
+        QCOMPARE(window.findChild<QWidget *>(QStringLiteral("footer"))->y(), divider->geometry().bottom() + 1);
     }
 
     void refreshAsksForAReading()
@@ -115,6 +181,43 @@ private slots:
         QCOMPARE(chart.visibleLineCount(), 1);
         QCOMPARE(chart.visiblePointCount(), 5 * 60); // the window opens at second 359, inside the gap
         QVERIFY(chart.peakText().endsWith(QStringLiteral("26.0 W")));
+    }
+
+    void chartPickerFollowsTheAppearance()
+    {
+        PowerHistoryChart chart; // built in the dark palette
+        for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            const FerrowPalette palette{scheme};
+            chart.setFerrowPalette(palette);
+            const QList<QToolButton *> segments = chart.findChildren<QToolButton *>();
+            QCOMPARE(segments.size(), 3);
+            for (QToolButton *segment : segments) {
+                segment->ensurePolished();
+                QCOMPARE(segment->palette().color(QPalette::ButtonText), palette.primaryText());
+            }
+        }
+    }
+
+    void chartAxesAreRoundAndNamed()
+    {
+        PowerHistoryChart chart;
+        chart.setHistory(historyWithAGap()); // 20 to 26 W: a range of 0 to 29.9
+        QCOMPARE(chart.valueTicks(), (QList<double>{0, 10, 20}));
+
+        QString timeFormat = QLocale().timeFormat(QLocale::ShortFormat);
+        timeFormat.remove(QStringLiteral(":ss"));
+        for (const int minutes : {5, 15, 60}) {
+            chart.setMinutes(minutes);
+            const QStringList labels = chart.timeTickLabels();
+            QVERIFY2(labels.size() >= 3 && labels.size() <= 6, qPrintable(labels.join(u' ')));
+            for (const QString &label : labels) // hour and minute only, as the locale writes them
+                QVERIFY2(QLocale().toTime(label, timeFormat).isValid(), qPrintable(label));
+        }
+
+        // The axes' names reach accessibility through the chart's description.
+        const QString description = chart.findChild<QChartView *>()->accessibleDescription();
+        QVERIFY2(description.contains(localizedText("power_history.time")) && description.contains(localizedText("power_history.watts")),
+                 qPrintable(description));
     }
 };
 

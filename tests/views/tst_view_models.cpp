@@ -96,6 +96,40 @@ private slots:
         QVERIFY(qAbs(FerrowPalette{ColorScheme::light}.cardTint().alphaF() - 0.075) < 0.005);
     }
 
+    void readableTones_data()
+    {
+        QTest::addColumn<QColor>("tone");
+        QTest::addColumn<QColor>("background");
+        QTest::addColumn<double>("ratio"); // WCAG's, of the tone as it is
+        QTest::newRow("black on white") << QColor(Qt::black) << QColor(Qt::white) << 21.0;
+        QTest::newRow("white on white") << QColor(Qt::white) << QColor(Qt::white) << 1.0;
+        QTest::newRow("#767676 on white: just passes") << QColor(0x76, 0x76, 0x76) << QColor(Qt::white) << 4.54;
+        QTest::newRow("#777777 on white: just fails") << QColor(0x77, 0x77, 0x77) << QColor(Qt::white) << 4.48;
+        QTest::newRow("half-transparent black on white is mid grey") << QColor(0, 0, 0, 128) << QColor(Qt::white) << 4.00;
+        QTest::newRow("pink on a light panel") << QColor(241, 169, 184) << QColor(253, 253, 254) << 1.86;
+        QTest::newRow("green on a light panel") << QColor(40, 167, 69) << QColor(253, 253, 254) << 3.08;
+        QTest::newRow("pink on a dark panel") << QColor(241, 169, 184) << QColor(48, 48, 51) << 6.96;
+        QTest::newRow("blue on a dark panel") << QColor(0, 64, 160) << QColor(48, 48, 51) << 1.40;
+        QTest::newRow("on mid grey") << QColor(120, 120, 120) << QColor(118, 118, 118) << 1.03;
+    }
+
+    void readableTones()
+    {
+        QFETCH(QColor, tone);
+        QFETCH(QColor, background);
+        QFETCH(double, ratio);
+        QVERIFY2(qAbs(contrastRatio(tone, background) - ratio) < 0.01, qPrintable(QString::number(contrastRatio(tone, background))));
+
+        const QColor readable = readableOn(tone, background);
+        QVERIFY2(contrastRatio(readable, background) >= 4.5, qPrintable(readable.name()));
+        if (ratio >= 4.5 && tone.alpha() == 255) {
+            QCOMPARE(readable.rgb(), tone.rgb()); // already readable: left alone
+        } else if (tone.hsvHue() >= 0) {
+            QVERIFY(qAbs(readable.hsvHue() - tone.hsvHue()) <= 3); // still the same colour, only darker or lighter
+            QVERIFY(contrastRatio(readable, background) < 4.8);    // and no further from it than it takes
+        }
+    }
+
     // Rows as "label=value@colour" lines, so a whole card compares at once.
     void telemetryRows_data()
     {

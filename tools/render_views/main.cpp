@@ -2,8 +2,11 @@
 // every state without a Mac: the popover for a notebook on its adapter, on battery, and a desktop,
 // in both appearances, at 1x and 2x; and the main window for a notebook and a desktop after
 // half an hour of simulated readings, at its top and scrolled to each section.
+//
+// Usage: render_views [FOLDER [MAIN_WINDOW_WIDTH]]
 
 #include "app/app_services.h"
+#include "app/menu_bar_label.h"
 #include "app/text_table.h"
 #include "platform/recorded/recorded_machine.h"
 #include "model/power_history.h"
@@ -19,6 +22,8 @@
 #include <QEventLoop>
 #include <QTextStream>
 #include <QTimer>
+
+#include <vector>
 
 using namespace ferrow;
 
@@ -63,7 +68,7 @@ void waitFor(int milliseconds)
     loop.exec();
 }
 
-int renderMainWindows(const QString &output, QTextStream &err)
+int renderMainWindows(const QString &output, int width, QTextStream &err)
 {
     int written = 0;
     for (const auto &[name, kind] : {std::pair{"notebook", SimulatedPowerModel::Kind::notebook}, std::pair{"desktop", SimulatedPowerModel::Kind::desktop}}) {
@@ -75,6 +80,8 @@ int renderMainWindows(const QString &output, QTextStream &err)
             window.setSnapshot(run.snapshot);
             window.setHistory(run.history);
             window.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+            if (width > 0)
+                window.resize(width, window.height());
             window.show();
             waitFor(50);
             for (const MainSection section : kMainSections) {
@@ -94,6 +101,30 @@ int renderMainWindows(const QString &output, QTextStream &err)
     return written;
 }
 
+// The tray icon as a panel shows it: each state at the usual panel sizes on a light and a dark panel.
+bool renderTrayIcons(const QString &output, const std::vector<PowerSnapshot> &snapshots)
+{
+    const int sizes[] = {22, 24, 32};
+    const int cell = 40;
+    QImage strip(cell * 3 * int(snapshots.size() + 1), cell * 2, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&strip);
+    painter.fillRect(QRect(0, 0, strip.width(), cell), QColor(236, 236, 238));
+    painter.fillRect(QRect(0, cell, strip.width(), cell), QColor(36, 36, 40));
+    for (int row = 0; row < 2; ++row) {
+        int x = 0;
+        for (std::size_t i = 0; i <= snapshots.size(); ++i) {
+            const bool figure = i < snapshots.size();
+            const QIcon icon = renderTrayIcon(figure ? snapshots[i] : snapshots.front(), figure);
+            for (const int side : sizes) {
+                painter.drawPixmap(x + (cell - side) / 2, row * cell + (cell - side) / 2, icon.pixmap(side, side));
+                x += cell;
+            }
+        }
+    }
+    painter.end();
+    return strip.save(output + QStringLiteral("/tray.png"));
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -108,6 +139,7 @@ int main(int argc, char *argv[])
     QTextStream err(stderr);
     const QString fixtures = QStringLiteral(FERROW_SOURCE_DIR "/tests/fixtures/");
     const QString output = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral(FERROW_SOURCE_DIR "/docs/images");
+    const int mainWindowWidth = argc > 2 ? QString::fromLocal8Bit(argv[2]).toInt() : 0; // 0: the window's own width
     QDir().mkpath(output);
 
     const struct {
@@ -115,6 +147,7 @@ int main(int argc, char *argv[])
         const char *recording;
     } states[] = {{"adapter", "notebook-charging-26"}, {"battery", "notebook-battery-27"}, {"desktop", "desktop-26"}};
     int written = 0;
+    std::vector<PowerSnapshot> snapshots;
     for (const auto &state : states) {
         QString error;
         const std::optional<PowerSnapshot> snapshot = readRecordedSnapshot(fixtures + QLatin1String(state.recording), &error);
@@ -122,6 +155,7 @@ int main(int argc, char *argv[])
             err << "render_views: " << error << Qt::endl;
             return 1;
         }
+        snapshots.push_back(*snapshot);
         for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
             DashboardView dashboard;
             dashboard.setFerrowPalette(FerrowPalette{scheme});
@@ -143,7 +177,12 @@ int main(int argc, char *argv[])
             }
         }
     }
-    const int windows = renderMainWindows(output, err);
+    if (!renderTrayIcons(output, snapshots)) {
+        err << "render_views: cannot write the tray icons to " << output << Qt::endl;
+        return 1;
+    }
+    ++written;
+    const int windows = renderMainWindows(output, mainWindowWidth, err);
     if (windows < 0)
         return 1;
     written += windows;
