@@ -136,16 +136,24 @@ void PowerFlowView::paintConnectorDots(QPainter &painter, const QRectF &rect, co
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(rect.topLeft());
-    painter.setPen(Qt::NoPen);
+    const double scale = paintingScale(painter);
     for (const FlowDot &dot : flowDots(flowInputs(snapshot), rect.size(), phase)) {
-        QColor halo = dot.color;
-        halo.setAlphaF(0.28f);
-        painter.setBrush(halo);
-        painter.drawEllipse(dot.position, 5.5, 5.5);
-        painter.setBrush(dot.color);
-        painter.drawEllipse(dot.position, 3, 3);
-        painter.setBrush(QColor(255, 255, 255, 224));
-        painter.drawEllipse(dot.position, 1, 1);
+        // One sprite per colour, in steps too fine to see: a blit per dot instead of three
+        // antialiased ellipses every frame.
+        const QColor color = QColor::fromRgb(dot.color.rgb() & 0xFFFCFCFC);
+        const QPixmap sprite = cachedDrawing(QStringLiteral("flow-dot|%1").arg(color.rgb()), QSizeF(14, 14), scale, [&](QPainter &p) {
+            const QPointF centre(7, 7);
+            p.setPen(Qt::NoPen);
+            QColor halo = color;
+            halo.setAlphaF(0.28f);
+            p.setBrush(halo);
+            p.drawEllipse(centre, 5.5, 5.5);
+            p.setBrush(color);
+            p.drawEllipse(centre, 3, 3);
+            p.setBrush(QColor(255, 255, 255, 224));
+            p.drawEllipse(centre, 1, 1);
+        });
+        painter.drawPixmap(dot.position - QPointF(7, 7), sprite);
     }
     painter.restore();
 }
