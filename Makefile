@@ -15,12 +15,13 @@ else
 RUN          := $(BUILD_DIR)/src/app/ferrow
 endif
 
-.PHONY: run test bench fuzz deps app build build-sanitize check-macos clean
+.PHONY: run test bench fuzz deps app build build-sanitize package check-macos clean
 
 run: app
 	$(RUN)
 
 test: build build-sanitize
+	@tools/install-deps.sh --test
 	ctest --test-dir $(BUILD_DIR) --output-on-failure -j2
 	ctest --test-dir $(SANITIZE_DIR) --output-on-failure -j2
 
@@ -60,6 +61,18 @@ build-sanitize: deps
 	@test -f $(SANITIZE_DIR)/build.ninja || cmake -S . -B $(SANITIZE_DIR) $(CMAKE_FLAGS) -DCMAKE_BUILD_TYPE=Debug \
 		-DFERROW_SANITIZE=ON -DFERROW_BUILD_BENCHMARKS=OFF
 	@cmake --build $(SANITIZE_DIR)
+
+# A Debian package (build/ferrow_*.deb, then checked by tests/package/check_deb.sh) on Linux,
+# a disk image with the self-contained Ferrow.app on macOS.
+package: build
+	@tools/install-deps.sh --package
+	@cd $(BUILD_DIR) && cpack
+ifeq ($(shell uname -s),Darwin)
+	@ls $(BUILD_DIR)/Ferrow-*.dmg
+else
+	@tests/package/check_deb.sh $(BUILD_DIR)/ferrow_*.deb
+	@ls $(BUILD_DIR)/ferrow_*.deb
+endif
 
 # Compiles what a Mac build compiles against an Apple SDK, on any machine: MACOS_SDK=path/to/MacOSX.sdk
 check-macos:

@@ -1,3 +1,4 @@
+#include "model/metrics_exposition.h"
 #include "model/power_history.h"
 #include "model/power_snapshot.h"
 
@@ -70,6 +71,46 @@ void BM_SnapshotEquality(benchmark::State &state)
         benchmark::DoNotOptimize(a == b);
 }
 BENCHMARK(BM_SnapshotEquality);
+
+// One scrape's text for a notebook that reports nearly every figure, the exporter's cost per request.
+void BM_MetricsExposition(benchmark::State &state)
+{
+    PowerSnapshot s = readingAt(1, false);
+    s.isCharging = true;
+    s.systemPowerW = 12.5;
+    s.chipPower = {3.2, 0.4, 0.01, 0.6};
+    s.batteryChargePowerW = 7.5;
+    s.batteryHealthPercent = 93;
+    s.batteryHealthCondition = BatteryHealthCondition::good;
+    s.batteryTemperatureC = 31.4;
+    s.batteryCurrentA = 0.6;
+    s.cycleCount = 187;
+    s.designCycleCount = 1000;
+    s.designCapacityMAH = 6249;
+    s.fullChargeCapacityMAH = 5814;
+    s.nominalFullChargeCapacityMAH = 5902;
+    s.remainingCapacityMAH = 3199;
+    s.cellVoltagesV = {4.101, 4.098, 4.103};
+    s.deviceName = QStringLiteral("bq40z651");
+    s.batterySerial = QStringLiteral("F8Y2K0ABCDEF");
+    s.totalOperatingMinutes = 91250;
+    s.lifetimeMaxTemperatureC = 41.0;
+    s.lifetimeMinTemperatureC = 9.0;
+    s.lifetimeAverageTemperatureC = 26.8;
+    s.lifetimeMaxPackVoltageV = 12.9;
+    s.lifetimeMinPackVoltageV = 9.1;
+    s.lifetimeMaxChargeCurrentA = 3.1;
+    s.lifetimeMaxDischargeCurrentA = 4.2;
+    s.batterySafetyProtectionCount = 0;
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        const QByteArray text = metricsExposition(&s, u"0.1.0");
+        bytes = static_cast<std::size_t>(text.size());
+        benchmark::DoNotOptimize(text.constData());
+    }
+    state.counters["bytes"] = static_cast<double>(bytes);
+}
+BENCHMARK(BM_MetricsExposition);
 
 } // namespace
 

@@ -1,6 +1,13 @@
 #include "platform/simulated/simulated_machine.h"
 #include "sources/power_sensor_reader.h"
 
+#include <QtGlobal>
+
+#if defined(Q_OS_LINUX)
+#include "platform/common/in_memory_key_value_store.h"
+#include "platform/linux/linux_machine.h"
+#endif
+
 #include <benchmark/benchmark.h>
 
 #include <atomic>
@@ -46,6 +53,32 @@ void BM_ReadSimulatedNotebook(benchmark::State &state)
 #endif
 }
 BENCHMARK(BM_ReadSimulatedNotebook)->Arg(26)->Arg(27)->ArgName("macOS");
+
+#if defined(Q_OS_LINUX)
+// One reading of a Linux machine from its kernel files: a notebook's battery and supplies with
+// five RAPL zones, or an Apple-silicon notebook's SMC sensors through hwmon. Every file is opened
+// and read as on the machine itself, from a copied tree.
+void BM_ReadLinuxMachine(benchmark::State &state, const char *tree)
+{
+    auto *machine = new LinuxMachine(std::make_unique<SysfsFiles>(std::string(FERROW_SOURCE_DIR "/tests/fixtures/") + tree),
+                                     std::make_unique<InMemoryKeyValueStore>());
+    PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
+    reader.read();
+    std::size_t allocations = 0;
+    for (auto _ : state) {
+        const std::size_t before = allocationCount.load();
+        benchmark::DoNotOptimize(reader.read());
+        allocations += allocationCount.load() - before;
+    }
+#ifdef FERROW_COUNTS_ALLOCATIONS
+    state.counters["allocs/read"] = benchmark::Counter(static_cast<double>(allocations), benchmark::Counter::kAvgIterations);
+#else
+    benchmark::DoNotOptimize(allocations);
+#endif
+}
+BENCHMARK_CAPTURE(BM_ReadLinuxMachine, intel_notebook, "sysfs-intel-notebook");
+BENCHMARK_CAPTURE(BM_ReadLinuxMachine, apple_notebook, "sysfs-apple-notebook");
+#endif
 
 } // namespace
 

@@ -2,6 +2,7 @@
 #include "app/terminal_view.h"
 #include "app/text_table.h"
 #include "model/snapshot_json.h"
+#include "metrics_server.h"
 #include "sources/power_sensor_reader.h"
 
 #include <QCommandLineParser>
@@ -23,15 +24,49 @@ int main(int argc, char *argv[])
     parser.setApplicationDescription(QStringLiteral("Reads the machine's power state without a display."));
     parser.addHelpOption();
     const QCommandLineOption sourceOption(QStringLiteral("source"),
-                                          QStringLiteral("Machine to read: simulated, simulated-desktop, recorded:PATH or auto."),
+                                          QStringLiteral("Machine to read: simulated, simulated-desktop, recorded:PATH, sysfs:ROOT (a copied Linux tree, ROOT/sys/class/...) or auto."),
                                           QStringLiteral("source"), QStringLiteral("auto"));
     const QCommandLineOption onceOption(QStringLiteral("once"), QStringLiteral("Print one reading, after a one-second baseline."));
     const QCommandLineOption watchOption(QStringLiteral("watch"), QStringLiteral("Print a reading every second until interrupted (default)."));
     const QCommandLineOption jsonOption(QStringLiteral("json"), QStringLiteral("Print readings as JSON objects."));
-    parser.addOptions({sourceOption, onceOption, watchOption, jsonOption});
+    const QCommandLineOption recordOption(QStringLiteral("record"),
+                                          QStringLiteral("Copy the files a reading of this machine uses into FOLDER (new or empty), to read back with --source sysfs:FOLDER."),
+                                          QStringLiteral("FOLDER"));
+    parser.addOptions({sourceOption, onceOption, watchOption, jsonOption, recordOption});
+    const QCommandLineOption serveOption(
+        QStringLiteral("serve"),
+        QStringLiteral("Serve the latest reading as Prometheus metrics at http://ADDRESS:PORT/metrics until interrupted. ADDRESS:PORT, "
+                       "ADDRESS or :PORT; the address defaults to 127.0.0.1 (this machine only), the port to %1.")
+            .arg(kDefaultMetricsPort),
+        QStringLiteral("ADDRESS:PORT"));
+    parser.addOption(serveOption);
     parser.process(application);
 
     QTextStream err(stderr);
+    if (parser.isSet(serveOption)
+        && (parser.isSet(onceOption) || parser.isSet(watchOption) || parser.isSet(jsonOption) || parser.isSet(recordOption))) {
+        err << "ferrow-cli: --serve takes no --once, --watch, --json or --record\n";
+        return 2;
+    }
+    if (parser.isSet(recordOption)) {
+        if (parser.isSet(sourceOption) || parser.isSet(onceOption) || parser.isSet(watchOption) || parser.isSet(jsonOption)) {
+            err << "ferrow-cli: --record reads this machine and takes no other option\n";
+            return 2;
+        }
+        QString error;
+        if (!recordMachine(parser.value(recordOption), &error)) {
+            err << "ferrow-cli: " << error << '\n';
+            return 1;
+        }
+#if defined(Q_OS_LINUX)
+        const char *readBack = "sysfs:";
+#else
+        const char *readBack = "recorded:";
+#endif
+        QTextStream(stdout) << "Recorded into " << parser.value(recordOption) << "; read it back with --source " << readBack
+                            << parser.value(recordOption) << Qt::endl;
+        return 0;
+    }
     if (parser.isSet(onceOption) && parser.isSet(watchOption)) {
         err << "ferrow-cli: --once and --watch exclude each other\n";
         return 2;
@@ -47,6 +82,12 @@ int main(int argc, char *argv[])
         err << "ferrow-cli: " << error << '\n';
         return 1;
     }
+    if (machine->chipPowerNeedsPermission)
+        err << "ferrow-cli: the processor's energy counters (/sys/class/powercap/*/energy_uj) are readable by root only, "
+               "so chip power stays empty; the README's \"Chip power on Linux\" shows the udev rule that allows it.\n";
+    if (parser.isSet(serveOption))
+        return serveMetrics(std::make_unique<PowerSensorReader>(std::move(machine->platform)), parser.value(serveOption),
+                            machine->description);
     const bool realTime = machine->runsInRealTime;
     PowerSensorReader reader(std::move(machine->platform));
 

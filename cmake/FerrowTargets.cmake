@@ -26,7 +26,7 @@ if(NOT APPLE)
     string(PREPEND _ferrow_asan_options detect_leaks=1:)
 endif()
 set(FERROW_TEST_ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen;ASAN_OPTIONS=${_ferrow_asan_options};UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
+    "QT_QPA_PLATFORM=offscreen;LANGUAGE=en;ASAN_OPTIONS=${_ferrow_asan_options};UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
 
 # ferrow_add_test(<name> SOURCES <files...> LIBRARIES <targets...>)
 # One Qt Test executable per unit, registered with CTest under its own name.

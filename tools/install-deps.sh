@@ -6,21 +6,39 @@ install_debian() {
     local extra_packages=()
     [ "${1:-}" = "--fuzz" ] && extra_packages=(clang libclang-rt-dev)
     [ "${1:-}" = "--macos-check" ] && extra_packages=(clang llvm python3)
+    [ "${1:-}" = "--package" ] && extra_packages=(dpkg-dev file lintian desktop-file-utils appstream)
+    # `make test` scrapes ferrow-cli --serve with a real Prometheus; without it those tests skip.
+    local tools=()
+    [ "${1:-}" = "--test" ] && tools=(prometheus)
     local packages=("${extra_packages[@]}" cmake ninja-build g++ make
         qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-charts-dev
         qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
         libbenchmark-dev fonts-dejavu-core)
-    local missing=()
+    local missing=() missing_tools=()
     for package in "${packages[@]}"; do
         dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
     done
-    [ ${#missing[@]} -eq 0 ] && return 0
+    for package in "${tools[@]}"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing_tools+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && [ ${#missing_tools[@]} -eq 0 ] && return 0
 
     local sudo=""
     [ "$(id -u)" -ne 0 ] && sudo="sudo"
-    echo "Installing ${missing[*]}"
+    local all=("${missing[@]}" "${missing_tools[@]}")
+    echo "Installing ${all[*]}"
     $sudo apt-get update -qq
-    DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq "${missing[@]}" >/dev/null
+    if [ ${#missing[@]} -gt 0 ]; then
+        DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq "${missing[@]}" >/dev/null
+    fi
+    if [ ${#missing_tools[@]} -gt 0 ]; then
+        # The tests run the programs themselves: neither the node exporter Debian recommends with
+        # Prometheus nor the system service the package starts (listening on every interface).
+        DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing_tools[@]}" >/dev/null
+        if command -v systemctl >/dev/null 2>&1; then
+            $sudo systemctl disable --now "${missing_tools[@]}" >/dev/null 2>&1 || true
+        fi
+    fi
 }
 
 install_macos() {

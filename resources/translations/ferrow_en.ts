@@ -287,6 +287,10 @@
         <source>Power distribution</source>
         <translation>Power distribution</translation>
     </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</translation>
+    </message>
     <message id="power.dc_input">
         <source>DC input</source>
         <translation>DC input</translation>

@@ -5,7 +5,9 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -30,8 +32,20 @@ XdgAutostartLoginItem::XdgAutostartLoginItem(QString autostartFolder, QString ex
     : m_folder(autostartFolder.isEmpty()
                    ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/autostart")
                    : std::move(autostartFolder))
-    , m_executable(executable.isEmpty() ? QCoreApplication::applicationFilePath() : std::move(executable))
+    , m_executable(executable.isEmpty() ? launchCommand() : std::move(executable))
 {
+}
+
+QString XdgAutostartLoginItem::launchCommand()
+{
+    // An installed copy is started by name, as its desktop entry does, so that the entry survives
+    // a move of the binary; a copy in a build tree keeps its full path.
+    const QString self = QCoreApplication::applicationFilePath();
+    const QString name = QFileInfo(self).fileName();
+    const QString onPath = QStandardPaths::findExecutable(name);
+    if (!onPath.isEmpty() && QFileInfo(onPath).canonicalFilePath() == QFileInfo(self).canonicalFilePath())
+        return name;
+    return self;
 }
 
 QString XdgAutostartLoginItem::entryPath() const
@@ -58,10 +72,15 @@ bool XdgAutostartLoginItem::setEnabled(bool enabled)
     QSaveFile entry(entryPath());
     if (!entry.open(QIODevice::WriteOnly))
         return false;
+    // Quoted only when it has to be, so that an installed copy writes the same Exec as its desktop entry.
+    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9/._+-]+$"));
     QString quoted = m_executable;
-    quoted.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
+    if (!plain.match(quoted).hasMatch()) {
+        quoted.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
+        quoted = u'"' + quoted + u'"';
+    }
     const QString text = QStringLiteral("[Desktop Entry]\nType=Application\nName=Ferrow\nComment=Power monitor\n"
-                                        "Exec=\"%1\"\nTerminal=false\nX-GNOME-Autostart-enabled=true\n")
+                                        "Exec=%1\nTerminal=false\nX-GNOME-Autostart-enabled=true\n")
                              .arg(quoted);
     entry.write(text.toUtf8());
     return entry.commit();

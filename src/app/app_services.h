@@ -31,6 +31,8 @@ public:
     bool isEnabled() const override;
     bool setEnabled(bool enabled) override;
     QString entryPath() const;
+    // This program's name when the search path finds this very file, else its full path.
+    static QString launchCommand();
 
 private:
     QString m_folder;

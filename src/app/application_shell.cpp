@@ -44,6 +44,7 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
                                    std::unique_ptr<LoginItem> loginItem, std::unique_ptr<MenuBarItem> menuBarItem, QObject *parent)
     : QObject(parent)
     , m_readsSimulation(machine.isSimulated)
+    , m_chipPowerNeedsPermission(machine.chipPowerNeedsPermission)
     , m_showPower(readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true))
     , m_sleepWake(std::move(sleepWake))
     , m_loginItem(std::move(loginItem))
@@ -126,6 +127,8 @@ MainWindowView *ApplicationShell::openMainWindow()
         m_mainWindow = std::make_unique<MainWindowView>();
         m_mainWindow->setFerrowPalette(currentPalette());
         m_mainWindow->setVersion(applicationVersionText());
+        if (m_chipPowerNeedsPermission)
+            m_mainWindow->setPowerNotice(localizedText("power.chip_permission"));
         m_mainWindow->setReduceMotion(reducesMotion(m_settings));
         m_mainWindow->setSnapshot(m_monitor->snapshot());
         m_mainWindow->setHistory(m_monitor->powerHistory());

@@ -49,6 +49,7 @@ private:
 
     QSettings m_settings;
     bool m_readsSimulation;
+    bool m_chipPowerNeedsPermission;
     bool m_showPower;
     std::unique_ptr<SleepWakeNotifier> m_sleepWake;
     std::unique_ptr<LoginItem> m_loginItem;

@@ -5,6 +5,15 @@
 
 #if defined(Q_OS_MACOS)
 #include "platform/macos/mac_machine.h"
+#include "platform/recorded/recording_writer.h"
+
+#include <QThread>
+#elif defined(Q_OS_LINUX)
+#include "platform/common/in_memory_key_value_store.h"
+#include "platform/common/settings_key_value_store.h"
+#include "platform/linux/linux_machine.h"
+
+#include <QFile>
 #endif
 
 namespace ferrow {
@@ -19,8 +28,38 @@ std::optional<MachineSource> MachineSource::parse(const QString &text)
         return MachineSource{Kind::simulatedDesktop, {}};
     if (text.startsWith(u"recorded:") && text.size() > 9)
         return MachineSource{Kind::recorded, text.mid(9)};
+    if (text.startsWith(u"sysfs:") && text.size() > 6)
+        return MachineSource{Kind::sysfsTree, text.mid(6)};
     return std::nullopt;
 }
+
+#if defined(Q_OS_LINUX)
+namespace {
+
+OpenedMachine openedLinuxMachine(std::unique_ptr<LinuxMachine> machine, QString description)
+{
+    OpenedMachine opened{nullptr, std::move(description), false, true};
+    opened.chipPowerNeedsPermission = machine->chipPowerNeedsPermission();
+    opened.platform = std::move(machine);
+    return opened;
+}
+
+std::optional<OpenedMachine> openSysfsTree(const QString &root, QString *error)
+{
+    if (!QFile::exists(root + QStringLiteral("/sys/class"))) {
+        if (error)
+            *error = QStringLiteral("%1: no sys/class folder in it, so not a copied tree").arg(root);
+        return std::nullopt;
+    }
+    // Read in real time, as a machine, so that a graphics card's recorded power integrates as it
+    // would live. A copy's battery extremes stay out of the user's own.
+    auto machine = std::make_unique<LinuxMachine>(std::make_unique<SysfsFiles>(QFile::encodeName(root).toStdString()),
+                                                  std::make_unique<InMemoryKeyValueStore>());
+    return openedLinuxMachine(std::move(machine), QStringLiteral("copied tree at ") + root);
+}
+
+} // namespace
+#endif
 
 std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *error)
 {
@@ -34,11 +73,25 @@ std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *e
     case MachineSource::Kind::automatic:
 #if defined(Q_OS_MACOS)
         return OpenedMachine{std::make_unique<MacMachine>(), QStringLiteral("this Mac"), false, true};
+#elif defined(Q_OS_LINUX)
+        if (auto machine = std::make_unique<LinuxMachine>(std::make_unique<SysfsFiles>(), std::make_unique<SettingsKeyValueStore>());
+            machine->hasPowerSources())
+            return openedLinuxMachine(std::move(machine), QStringLiteral("this Linux machine"));
+        return simulated(Kind::notebook, "simulated notebook (this machine shows no battery, power supply or power sensor)",
+                         "app.menu_subtitle_simulated");
 #endif
     case MachineSource::Kind::simulatedNotebook:
         return simulated(Kind::notebook, "simulated notebook", "app.menu_subtitle_simulated");
     case MachineSource::Kind::simulatedDesktop:
         return simulated(Kind::desktop, "simulated desktop", "app.menu_subtitle_simulated_desktop");
+    case MachineSource::Kind::sysfsTree:
+#if defined(Q_OS_LINUX)
+        return openSysfsTree(source.recordingPath, error);
+#else
+        if (error)
+            *error = QStringLiteral("sysfs:%1: copied Linux trees are read by Linux builds only").arg(source.recordingPath);
+        return std::nullopt;
+#endif
     case MachineSource::Kind::recorded:
         break;
     }
@@ -48,6 +101,21 @@ std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *e
     const QString description = recording->description.isEmpty() ? source.recordingPath : recording->description;
     return OpenedMachine{std::make_unique<RecordedMachine>(std::move(*recording)), QStringLiteral("recording of ") + description, false,
                          false};
+}
+
+bool recordMachine(const QString &folder, QString *error)
+{
+#if defined(Q_OS_MACOS)
+    MacMachine machine;
+    return writeRecording(machine, MacMachine::modelAndSystem(), [] { QThread::sleep(1); }, folder, error);
+#elif defined(Q_OS_LINUX)
+    return recordSysfsTree("/", folder, error);
+#else
+    Q_UNUSED(folder);
+    if (error)
+        *error = QStringLiteral("recording is built for Linux and macOS only");
+    return false;
+#endif
 }
 
 } // namespace ferrow

@@ -9,12 +9,13 @@
 
 namespace ferrow {
 
-// Which machine to read: "simulated", "simulated-desktop", "recorded:PATH" or "auto" (the real
-// machine where this build has a backend for it, else the simulated notebook).
+// Which machine to read: "simulated", "simulated-desktop", "recorded:PATH", "sysfs:ROOT" (a copied
+// Linux tree, ROOT/sys/class/...) or "auto": this Mac, or this Linux machine when it has a battery,
+// a power supply or a power sensor; else the simulated notebook.
 struct MachineSource {
-    enum class Kind { automatic, simulatedNotebook, simulatedDesktop, recorded };
+    enum class Kind { automatic, simulatedNotebook, simulatedDesktop, recorded, sysfsTree };
     Kind kind = Kind::automatic;
-    QString recordingPath;
+    QString recordingPath; // the recording folder, or the copied tree's root
 
     static std::optional<MachineSource> parse(const QString &text);
 };
@@ -25,9 +26,15 @@ struct OpenedMachine {
     bool isSimulated = false;
     bool runsInRealTime = true; // false for a recording, which steps through its own frames
     const char *subtitleKey = "app.menu_subtitle"; // the dashboard's subtitle, naming a simulation as such
+    // The processor's energy counters are there but only root may read them (see the README).
+    bool chipPowerNeedsPermission = false;
 };
 
 // Opens the machine, or explains in one line why it could not be opened.
 std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *error);
+
+// Records this machine into folder, for reading back as a source (on Linux, the files a reading
+// uses, as sysfs:FOLDER). False, with the reason in error, where that cannot be done.
+bool recordMachine(const QString &folder, QString *error);
 
 } // namespace ferrow

@@ -4,8 +4,9 @@ class QCoreApplication;
 
 namespace ferrow {
 
-// Installs the English text table compiled into the program. Returns false if it could not be
-// loaded, in which case every text shows as its key.
+// Installs the English text table compiled into the program and, over it, the table for the
+// current locale's language where there is one. Returns false if English could not be loaded, in
+// which case every text shows as its key.
 bool installTextTable(QCoreApplication &application);
 
 } // namespace ferrow

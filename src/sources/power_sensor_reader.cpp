@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 namespace ferrow {
@@ -165,6 +166,12 @@ PowerSnapshot PowerSensorReader::read()
         const std::optional<bool> reported = propertyBoolean(at(props, "ExternalConnected"));
         s.isExternalConnected = reported ? *reported : m_platform->systemInfo().hasExternalPowerAdapterDetails();
         s.batteryFlowW = dcPowerW.value_or(0.0) - systemPowerW.value_or(0.0);
+        // With neither side of the machine measured, the battery's own pack voltage and current
+        // are the only figure of its flow (a Linux notebook on its adapter).
+        const std::optional<std::int64_t> packMV = inRange(integerAt(props, "Voltage"), 1, 30'000);
+        const std::optional<std::int64_t> packMA = integerAt(props, "Amperage");
+        if (!dcPowerW && !systemPowerW && packMV && packMA && std::abs(*packMA) <= 100'000)
+            s.batteryFlowW = static_cast<double>(*packMV) * static_cast<double>(*packMA) / 1e6;
         s.batteryChargePowerW = s.isExternalConnected && s.batteryFlowW > 0 ? s.batteryFlowW : 0.0;
     }
 

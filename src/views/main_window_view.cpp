@@ -596,6 +596,11 @@ QWidget *MainWindowView::buildDetail()
     power->addLayout(meterRow);
     m_meterCaption = label(uiFont(11));
     power->addWidget(m_meterCaption);
+    m_powerNotice = label(uiFont(11));
+    m_powerNotice->setObjectName(QStringLiteral("powerNotice"));
+    m_powerNotice->setWordWrap(true);
+    m_powerNotice->hide();
+    power->addWidget(m_powerNotice);
     panel(power, new DistributionPanel, "distribution");
     m_chart = new PowerHistoryChart;
     panel(power, new ChartPanel(m_chart), "historyPanel");
@@ -666,6 +671,13 @@ void MainWindowView::setVersion(const QString &version)
     m_version->setText(localizedFormatText("app.version", version));
 }
 
+void MainWindowView::setPowerNotice(const QString &notice)
+{
+    m_powerNotice->setText(notice);
+    m_powerNotice->setVisible(!notice.isEmpty());
+    updateEndSpacer();
+}
+
 void MainWindowView::setReduceMotion(bool reduceMotion)
 {
     m_reduceMotion = reduceMotion;
@@ -698,7 +710,7 @@ void MainWindowView::applyPalette()
     m_scroll->widget()->setAutoFillBackground(false);
 
     const auto colour = [](QLabel *l, const QColor &c) { l->setStyleSheet(QStringLiteral("color: %1").arg(cssColor(c))); };
-    for (QLabel *l : {m_sidebarStatus, m_overviewSubtitle, m_meterCaption, m_version, m_toolbarSubtitle})
+    for (QLabel *l : {m_sidebarStatus, m_overviewSubtitle, m_meterCaption, m_powerNotice, m_version, m_toolbarSubtitle})
         colour(l, p.secondaryText());
     colour(m_updatedAt, p.tertiaryText());
     for (QLabel *l : m_sidebar->findChildren<QLabel *>()) {

@@ -33,6 +33,8 @@ public:
     void setHistory(const PowerHistory &history);
     void setFerrowPalette(const FerrowPalette &palette);
     void setVersion(const QString &version);
+    // A note under the meters about what this machine keeps from us (empty hides it).
+    void setPowerNotice(const QString &notice);
     // Stills the sidebar's selection and the logo's hover.
     void setReduceMotion(bool reduceMotion);
 
@@ -80,6 +82,7 @@ private:
     QLabel *m_overviewTitle = nullptr;
     QLabel *m_overviewSubtitle = nullptr;
     QLabel *m_meterCaption = nullptr;
+    QLabel *m_powerNotice = nullptr;
     QLabel *m_version = nullptr;
     QLabel *m_toolbarTitle = nullptr;
     QLabel *m_toolbarSubtitle = nullptr;

@@ -51,6 +51,17 @@ private slots:
         QVERIFY(item.setEnabled(false)); // already off: nothing to do, no failure
     }
 
+    void autostartEntryExecMatchesTheInstalledDesktopEntry()
+    {
+        // The packaged desktop entry says Exec=ferrow; a plain command must not gain quotes.
+        QTemporaryDir home;
+        XdgAutostartLoginItem item(home.path(), QStringLiteral("ferrow"));
+        QVERIFY(item.setEnabled(true));
+        QFile entry(item.entryPath());
+        QVERIFY(entry.open(QIODevice::ReadOnly));
+        QVERIFY(entry.readAll().contains("\nExec=ferrow\n"));
+    }
+
     void autostartEntrySwitchedOffByTheDesktop()
     {
         QTemporaryDir home;

@@ -11,7 +11,6 @@
 using namespace ferrow;
 
 Q_DECLARE_METATYPE(ferrow::PowerSnapshot)
-Q_DECLARE_METATYPE(std::optional<std::int64_t>)
 
 namespace {
 
@@ -147,80 +146,54 @@ private slots:
         QCOMPARE(QByteArray(snapshot.statusKey()), key);
     }
 
-    void powerSourceText_data()
+    // One-line texts: each row is what the snapshot or the text table gave and what it should read.
+    void texts_data()
     {
-        QTest::addColumn<bool>("hasBattery");
-        QTest::addColumn<bool>("external");
-        QTest::addColumn<double>("dcVoltageV");
-        QTest::addColumn<QString>("text");
-
-        QTest::newRow("desktop on AC") << false << true << 0.0 << localizedText("power.ac_connected");
-        QTest::newRow("desktop without external power") << false << false << 12.0 << localizedText("power.dc_disconnected");
-        QTest::newRow("notebook at 20 V") << true << true << 20.0 << QStringLiteral("USB-C PD \u00B7 20.0 V");
-        QTest::newRow("notebook at 5 V") << true << true << 5.0 << QStringLiteral("USB-C PD \u00B7 5.0 V");
-        QTest::newRow("rounding to one decimal") << true << true << 14.96 << QStringLiteral("USB-C PD \u00B7 15.0 V");
-        QTest::newRow("notebook at 0.1 V") << true << true << 0.1 << localizedText("power.dc_disconnected");
-        QTest::newRow("notebook unplugged") << true << false << 20.0 << localizedText("power.dc_disconnected");
+        QTest::addColumn<QString>("actual");
+        QTest::addColumn<QString>("expected");
+        const auto source = [](bool hasBattery, bool external, double dcVoltageV) {
+            PowerSnapshot s;
+            s.hasBattery = hasBattery;
+            s.isExternalConnected = external;
+            s.dcVoltageV = dcVoltageV;
+            return s.powerSourceText();
+        };
+        const auto toFull = [](std::optional<std::int64_t> minutes) {
+            PowerSnapshot s;
+            s.estimatedMinutesToFull = minutes;
+            return s.timeToFullText();
+        };
+        QTest::newRow("desktop on AC") << source(false, true, 0.0) << localizedText("power.ac_connected");
+        QTest::newRow("desktop without external power") << source(false, false, 12.0) << localizedText("power.dc_disconnected");
+        QTest::newRow("notebook at 20 V") << source(true, true, 20.0) << QStringLiteral("USB-C PD \u00B7 20.0 V");
+        QTest::newRow("notebook at 5 V") << source(true, true, 5.0) << QStringLiteral("USB-C PD \u00B7 5.0 V");
+        QTest::newRow("rounding to one decimal") << source(true, true, 14.96) << QStringLiteral("USB-C PD \u00B7 15.0 V");
+        QTest::newRow("notebook at 0.1 V") << source(true, true, 0.1) << localizedText("power.dc_disconnected");
+        QTest::newRow("notebook unplugged") << source(true, false, 20.0) << localizedText("power.dc_disconnected");
+        QTest::newRow("to full: absent") << toFull(std::nullopt) << QStringLiteral("\u2014");
+        QTest::newRow("to full: zero") << toFull(0) << QStringLiteral("\u2014");
+        QTest::newRow("to full: negative") << toFull(-5) << QStringLiteral("\u2014");
+        QTest::newRow("to full: 1") << toFull(1) << QStringLiteral("1 min");
+        QTest::newRow("to full: 59") << toFull(59) << QStringLiteral("59 min");
+        QTest::newRow("to full: 60") << toFull(60) << QStringLiteral("1 h 0 min");
+        QTest::newRow("to full: 125") << toFull(125) << QStringLiteral("2 h 5 min");
+        QTest::newRow("to full: 5999") << toFull(5999) << QStringLiteral("99 h 59 min");
+        QTest::newRow("missing text shows its key") << localizedText("no.such.key") << QStringLiteral("no.such.key");
+        QTest::newRow("missing format too") << localizedFormat("no.such.key", {3, 4}) << QStringLiteral("no.such.key");
+        QTest::newRow("health names") << localizedName(BatteryHealthCondition::good) + u'/' + localizedName(BatteryHealthCondition::fair) + u'/'
+                + localizedName(BatteryHealthCondition::poor)
+                                      << localizedText("battery.health.good") + u'/' + localizedText("battery.health.fair") + u'/' + localizedText("battery.health.poor");
+        for (const char *key : {"status.external_power", "status.waiting_telemetry", "status.on_battery", "status.charging", "status.power_connected",
+                                "status.fully_charged", "power.ac_connected", "power.dc_disconnected", "battery.health.good",
+                                "battery.health.fair", "battery.health.poor"}) // English text, not the key
+            QTest::addRow("text of %s", key) << QString::number(localizedText(key) == QLatin1String(key)) << QStringLiteral("0");
     }
 
-    void powerSourceText()
+    void texts()
     {
-        QFETCH(bool, hasBattery);
-        QFETCH(bool, external);
-        QFETCH(double, dcVoltageV);
-        QFETCH(QString, text);
-        PowerSnapshot s;
-        s.hasBattery = hasBattery;
-        s.isExternalConnected = external;
-        s.dcVoltageV = dcVoltageV;
-        QCOMPARE(s.powerSourceText(), text);
-    }
-
-    void timeToFullText_data()
-    {
-        QTest::addColumn<std::optional<std::int64_t>>("minutes");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("absent") << std::optional<std::int64_t>() << QStringLiteral("\u2014");
-        QTest::newRow("zero") << std::optional<std::int64_t>(0) << QStringLiteral("\u2014");
-        QTest::newRow("negative") << std::optional<std::int64_t>(-5) << QStringLiteral("\u2014");
-        QTest::newRow("1") << std::optional<std::int64_t>(1) << QStringLiteral("1 min");
-        QTest::newRow("59") << std::optional<std::int64_t>(59) << QStringLiteral("59 min");
-        QTest::newRow("60") << std::optional<std::int64_t>(60) << QStringLiteral("1 h 0 min");
-        QTest::newRow("125") << std::optional<std::int64_t>(125) << QStringLiteral("2 h 5 min");
-        QTest::newRow("5999") << std::optional<std::int64_t>(5999) << QStringLiteral("99 h 59 min");
-    }
-
-    void timeToFullText()
-    {
-        QFETCH(std::optional<std::int64_t>, minutes);
-        QFETCH(QString, text);
-        PowerSnapshot s;
-        s.estimatedMinutesToFull = minutes;
-        QCOMPARE(s.timeToFullText(), text);
-    }
-
-    void everyKeyHasEnglishText_data()
-    {
-        QTest::addColumn<QByteArray>("key");
-        for (const char *key : {"status.external_power", "status.waiting_telemetry", "status.on_battery", "status.charging",
-                                "status.power_connected", "status.fully_charged", "power.ac_connected",
-                                "power.dc_disconnected", "duration.minutes", "duration.hours_minutes",
-                                "battery.health.good", "battery.health.fair", "battery.health.poor"})
-            QTest::newRow(key) << QByteArray(key);
-    }
-
-    void everyKeyHasEnglishText()
-    {
-        QFETCH(QByteArray, key);
-        const QString text = localizedText(key.constData());
-        QVERIFY(!text.isEmpty());
-        QVERIFY2(text != QString::fromLatin1(key), "no English text");
-    }
-
-    void missingTextShowsItsKey()
-    {
-        QCOMPARE(localizedText("no.such.key"), QStringLiteral("no.such.key"));
-        QCOMPARE(localizedFormat("no.such.key", {3, 4}), QStringLiteral("no.such.key"));
+        QFETCH(QString, actual);
+        QFETCH(QString, expected);
+        QCOMPARE(actual, expected);
     }
 
     void equality_data()
@@ -294,13 +267,6 @@ private slots:
         QCOMPARE(source.has_value(), isCellSource);
         if (source)
             QCOMPARE(rawValue(*source), raw);
-    }
-
-    void healthConditionNames()
-    {
-        QCOMPARE(localizedName(BatteryHealthCondition::good), localizedText("battery.health.good"));
-        QCOMPARE(localizedName(BatteryHealthCondition::poor), localizedText("battery.health.poor"));
-        QVERIFY(localizedName(BatteryHealthCondition::fair) != QStringLiteral("battery.health.fair"));
     }
 };
 

@@ -205,7 +205,8 @@ private slots:
         QCOMPARE(defaults.writeCount(), writesBefore);
     }
 
-    void writesOnlyWhenARecordChanges()
+    // A record is written only when it changes, loaded once, and never shared between batteries.
+    void keepingRecords()
     {
         InMemoryKeyValueStore defaults;
         BatteryHistoryStore store(defaults);
@@ -221,29 +222,15 @@ private slots:
         store.recordTemperature(kSerial, 30.0); // the count grows: saved every time
         store.recordTemperature(kSerial, 150.0);
         QCOMPARE(defaults.writeCount(), 4);
-        QCOMPARE(defaults.data(kElectricalKey),
-                 std::optional(QByteArray("{\"maximumChargeCurrentA\":1,\"maximumVoltageV\":12.2,\"minimumVoltageV\":12}")));
-    }
+        const QByteArray electrical("{\"maximumChargeCurrentA\":1,\"maximumVoltageV\":12.2,\"minimumVoltageV\":12}");
+        QCOMPARE(defaults.data(kElectricalKey), std::optional(electrical));
 
-    void eachKeyIsLoadedOnce()
-    {
-        InMemoryKeyValueStore defaults;
-        BatteryHistoryStore store(defaults);
-        store.recordTemperature(kSerial, 30.0);
         defaults.setData(kTemperatureKey, QByteArray("{\"maximumC\":50,\"minimumC\":10,\"averageC\":20,\"sampleCount\":99}"));
-        QCOMPARE(store.recordTemperature(kSerial, 31.0).sampleCount, 2u); // memory is the truth now
-    }
+        QCOMPARE(store.recordTemperature(kSerial, 31.0).sampleCount, 3u); // memory is the truth now
 
-    void batteriesNeverShareRecords()
-    {
-        InMemoryKeyValueStore defaults;
-        BatteryHistoryStore store(defaults);
-        store.recordElectrical(kSerial, 12.0, 3.0);
-        const std::optional<QByteArray> first = defaults.data(kElectricalKey);
-        QVERIFY(first);
         const BatteryElectricalHistory other = store.recordElectrical(kOtherSerial, 8.0, -1.0);
         QCOMPARE(fieldsOf(other), (Optionals{8.0, 8.0, QVariant(), 1.0}));
-        QCOMPARE(defaults.data(kElectricalKey), first);
+        QCOMPARE(defaults.data(kElectricalKey), std::optional(electrical));
     }
 
     // The real preferences backend: corrupt entries give fresh records, nothing else is touched,

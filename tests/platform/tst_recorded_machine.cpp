@@ -8,7 +8,6 @@
 #include "support/json_compare.h"
 
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -41,28 +40,12 @@ private slots:
     {
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QJsonObject>("expected");
-        const QJsonValue null(QJsonValue::Null);
-
-        QTest::newRow("notebook charging, 26") << QStringLiteral("notebook-charging-26") << QJsonObject{
-            {QStringLiteral("dcVoltageV"), 20.08}, {QStringLiteral("dcCurrentA"), 2.31}, {QStringLiteral("dcPowerW"), 46.3848},
-            {QStringLiteral("systemPowerW"), 14.62}, {QStringLiteral("batteryFlowW"), 31.7648}, {QStringLiteral("batteryPercent"), 48},
-            {QStringLiteral("batteryHealthPercent"), 91}, {QStringLiteral("batteryHealthCondition"), QStringLiteral("good")},
-            {QStringLiteral("batteryTemperatureC"), 31.15}, {QStringLiteral("batteryCurrentA"), 2.486},
-            {QStringLiteral("cellVoltagesV"), QJsonArray{4.007, 4.009, 4.005}}, {QStringLiteral("cellVoltageSource"), QStringLiteral("registry")},
-            {QStringLiteral("estimatedMinutesToFull"), 77}, {QStringLiteral("lifetimeAverageTemperatureC"), 29.1},
-            {QStringLiteral("chipPower"), QJsonObject{{QStringLiteral("cpu"), 4.25}, {QStringLiteral("gpu"), 0.62}, {QStringLiteral("ane"), 0}, {QStringLiteral("ram"), 0.41}}},
-            {QStringLiteral("isCharging"), true}, {QStringLiteral("isDataAvailable"), true}, {QStringLiteral("adapterDescription"), QStringLiteral("pd charger")}};
-        QTest::newRow("notebook on battery, 27") << QStringLiteral("notebook-battery-27") << QJsonObject{
-            {QStringLiteral("dcPowerW"), 0}, {QStringLiteral("batteryFlowW"), -22.4}, {QStringLiteral("batteryCurrentA"), -1.873},
-            {QStringLiteral("batteryHealthPercent"), 80}, {QStringLiteral("batteryHealthCondition"), QStringLiteral("fair")},
-            {QStringLiteral("batteryTemperatureC"), 33.0}, {QStringLiteral("lifetimeMaxTemperatureC"), 33.0},
-            {QStringLiteral("cellVoltageSource"), QStringLiteral("smc")}, {QStringLiteral("cellVoltagesV"), QJsonArray{3.712, 3.716, 3.709}},
-            {QStringLiteral("lifetimeMaxDischargeCurrentA"), 1.873}, {QStringLiteral("estimatedMinutesToFull"), null},
-            {QStringLiteral("isExternalConnected"), false}, {QStringLiteral("isDataAvailable"), true}, {QStringLiteral("batteryPercent"), 67}};
-        QTest::newRow("desktop, 26") << QStringLiteral("desktop-26") << QJsonObject{
-            {QStringLiteral("hasBattery"), false}, {QStringLiteral("dcPowerW"), 35}, {QStringLiteral("systemPowerW"), 31.5},
-            {QStringLiteral("batteryFlowW"), 0}, {QStringLiteral("isDataAvailable"), true}, {QStringLiteral("batteryHealthPercent"), null},
-            {QStringLiteral("chipPower"), QJsonObject{{QStringLiteral("cpu"), 9.3}, {QStringLiteral("gpu"), 2.4}}}};
+        QFile file(kFixtures + QStringLiteral("recorded-readings.json"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QJsonObject all = QJsonDocument::fromJson(file.readAll()).object();
+        QVERIFY(!all.isEmpty());
+        for (auto folder = all.begin(); folder != all.end(); ++folder)
+            QTest::newRow(qPrintable(folder.key())) << folder.key() << folder.value().toObject();
     }
 
     void fixtures()
@@ -200,42 +183,6 @@ private slots:
         QVERIFY(!loadRecording(folder.path(), &error));
         QVERIFY2(error.contains(message), qPrintable(error));
         QVERIFY2(error.startsWith(folder.path()), "the message names the file");
-    }
-
-    // The battery's stored extremes travel with the recording and are what the replay starts from.
-    void storedEntriesReplay_data()
-    {
-        QTest::addColumn<QString>("storedTemperature");
-        QTest::addColumn<double>("maximumC");
-        // The battery reads 33 °C; its serial's key is the SHA-256 of "F5D3107C2MZP1LRB".
-        QTest::newRow("a hotter past") << QStringLiteral("{\"maximumC\":41.5,\"minimumC\":12,\"averageC\":28,\"sampleCount\":9000}") << 41.5;
-        QTest::newRow("implausible maximum starts afresh")
-            << QStringLiteral("{\"maximumC\":900,\"minimumC\":12,\"averageC\":28,\"sampleCount\":9000}") << 33.0;
-        QTest::newRow("not JSON starts afresh") << QStringLiteral("{maximumC: 41.5") << 33.0;
-    }
-
-    void storedEntriesReplay()
-    {
-        QFETCH(QString, storedTemperature);
-        QFETCH(double, maximumC);
-        QTemporaryDir folder;
-        QVERIFY(QFile::copy(kFixtures + QStringLiteral("notebook-battery-27/battery.plist"), folder.filePath(QStringLiteral("battery.plist"))));
-        QFile fixture(kFixtures + QStringLiteral("notebook-battery-27/machine.json"));
-        QVERIFY(fixture.open(QIODevice::ReadOnly));
-        QJsonObject machine = QJsonDocument::fromJson(fixture.readAll()).object();
-        machine.insert(QStringLiteral("preferences"),
-                       QJsonObject{{QStringLiteral("batteryTemperatureHistory.v1.1e967dd7ef6af490cbd56440e0d90c21024ba580cbd35639aa27b6e112755ff8"),
-                                    storedTemperature}});
-        QFile file(folder.filePath(QStringLiteral("machine.json")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QJsonDocument(machine).toJson());
-        file.close();
-
-        QString error;
-        const std::optional<PowerSnapshot> snapshot = readRecordedSnapshot(folder.path(), &error);
-        QVERIFY2(snapshot, qPrintable(error));
-        QVERIFY(snapshot->lifetimeMaxTemperatureC);
-        QCOMPARE(*snapshot->lifetimeMaxTemperatureC, maximumC);
     }
 
     // A recording made through the same path as on a Mac replays as the machine read at that moment.

@@ -30,75 +30,49 @@ struct Run {
     }
 };
 
-bool isFiniteFigure(double value)
-{
-    return std::isfinite(value);
-}
-
 } // namespace
 
 class SimulatedMachineTest : public QObject {
     Q_OBJECT
 
 private slots:
-    // Two accelerated hours of the notebook through the real reader and the real history:
-    // charging, unplugged, discharging, and a ten-minute sleep in between.
+    // Two accelerated hours of the notebook through the real reader and the real history: charging,
+    // unplugged at 45 minutes, discharging, and a ten-minute sleep in between. (The soak test holds
+    // the figures and the history to their invariants over a whole day.)
     void notebookThroughTwoHours()
     {
         Run run(SimulatedPowerModel::Kind::notebook);
         PowerHistory history;
-        std::int64_t percentAtStart = -1, percentWhenUnplugged = -1, percentLast = -1;
-        std::int64_t segmentBeforeSleep = -1;
+        std::int64_t percentAtStart = -1, percentWhenUnplugged = -1;
         int chargingReadings = 0, batteryReadings = 0;
-
         for (int second = 1; second <= 2 * 3600; ++second) {
-            const bool asleep = second > 80 * 60 && second <= 90 * 60;
-            if (asleep) {
+            if (second > 80 * 60 && second <= 90 * 60) {
                 run.machine->simulationClock().advance(1s); // no readings while asleep
                 continue;
             }
             const PowerSnapshot s = run.readAfter(1s);
             history.append(s);
-
-            QVERIFY(s.hasBattery && s.isDataAvailable);
+            QVERIFY(s.hasBattery && s.isDataAvailable && s.batteryHealthPercent);
             QVERIFY(std::fabs(s.batteryFlowW - (s.dcPowerW - s.systemPowerW)) < 1e-9);
-            QVERIFY(s.batteryPercent >= 0 && s.batteryPercent <= 100);
-            QVERIFY(s.batteryHealthPercent && *s.batteryHealthPercent >= 0 && *s.batteryHealthPercent <= 100);
-            QVERIFY(s.displayPowerW() && isFiniteFigure(*s.displayPowerW()));
             QVERIFY(s.batteryTemperatureC && *s.batteryTemperatureC > 15 && *s.batteryTemperatureC < 60);
             QCOMPARE(s.cellVoltagesV.size(), 3u);
-            if (second > 1)
-                QVERIFY(s.chipPower.cpu && s.chipPower.gpu && s.chipPower.ane && s.chipPower.ram);
-            QVERIFY(history.samples().size() <= PowerHistory::kMaximumSampleCount);
-            QVERIFY(*history.updatedAt() - history.samples().front().date <= PowerHistory::kRetention);
-
             if (second == 1)
                 percentAtStart = s.batteryPercent;
             if (second < 45 * 60) {
                 QVERIFY(s.isExternalConnected);
                 chargingReadings += s.isCharging && s.batteryFlowW > 0;
             } else if (second > 46 * 60 && second < 95 * 60) {
-                QVERIFY(!s.isExternalConnected);
+                QVERIFY(!s.isExternalConnected && s.dcPowerW == 0.0);
                 QVERIFY(*s.displayPowerW() < 0); // the battery carries the system
-                QCOMPARE(s.dcPowerW, 0.0);
                 ++batteryReadings;
                 if (percentWhenUnplugged < 0)
                     percentWhenUnplugged = s.batteryPercent;
             }
-            if (second == 80 * 60)
-                segmentBeforeSleep = history.samples().back().segment;
-            if (second == 90 * 60 + 1)
-                QVERIFY(history.samples().back().segment > segmentBeforeSleep);
-            percentLast = s.batteryPercent;
         }
         QVERIFY(chargingReadings > 40 * 60);
         QVERIFY(batteryReadings > 30 * 60);
         QVERIFY2(percentWhenUnplugged > percentAtStart, "charging raised the charge");
-        QVERIFY(percentLast > 0);
-
-        const auto &samples = history.samples();
-        for (std::size_t i = 1; i < samples.size(); ++i)
-            QVERIFY(samples[i - 1].segment <= samples[i].segment);
+        QVERIFY(history.samples().front().segment < history.samples().back().segment); // the sleep broke the run
     }
 
     void desktopHasNoBattery()

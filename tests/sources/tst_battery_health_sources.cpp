@@ -1,4 +1,5 @@
 #include "sources/battery_health_sources.h"
+#include "support/fake_machine.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -6,6 +7,7 @@
 #include <QTest>
 
 using namespace ferrow;
+using namespace ferrow::testing;
 using namespace std::chrono_literals;
 
 // Wrapped: Qt's meta-type would look for operator< on the optional list, which libc++ rejects hard.
@@ -15,35 +17,6 @@ struct SourceList {
 Q_DECLARE_METATYPE(SourceList)
 
 namespace {
-
-class FakeClock final : public Clock {
-public:
-    WallTime now() const override { return time; }
-    double uptimeSeconds() const override { return 0; }
-    WallTime time = WallTime() + std::chrono::hours(24 * 365 * 55);
-};
-
-class FakeRunner final : public CommandRunner {
-public:
-    std::optional<CommandResult> run(const QString &program, const QStringList &arguments) override
-    {
-        ++runs;
-        lastProgram = program;
-        lastArguments = arguments;
-        return result;
-    }
-
-    std::optional<CommandResult> result;
-    int runs = 0;
-    QString lastProgram;
-    QStringList lastArguments;
-};
-
-class FakePowerSources final : public PowerSourceList {
-public:
-    std::optional<PropertyList> powerSourceDescriptions() override { return descriptions; }
-    std::optional<PropertyList> descriptions;
-};
 
 QByteArray profilerOutput(const QJsonArray &sections)
 {
@@ -55,11 +28,6 @@ QJsonObject batterySection(const QJsonValue &maximumCapacity)
     return QJsonObject{{QStringLiteral("sppower_battery_health_info"),
                         QJsonObject{{QStringLiteral("sppower_battery_health_maximum_capacity"), maximumCapacity},
                                     {QStringLiteral("sppower_battery_health"), QStringLiteral("Good")}}}};
-}
-
-CommandResult exited(int status, const QByteArray &output = {})
-{
-    return CommandResult{status, output};
 }
 
 PropertyValue source(const char *type, std::optional<const char *> health)
@@ -76,53 +44,35 @@ class BatteryHealthSourcesTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void maximumCapacityText_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QVariant>("percent");
-        const QVariant none;
-        const auto row = [](const char *text, QVariant percent) {
-            QTest::newRow(text) << QString::fromUtf8(text) << percent;
-        };
-        row("87%", 87);
-        row("100%", 100);
-        row("%92%", 92);
-        row("87", 87);
-        row("87%%", 87);
-        row("0%", 0);
-        row("+7", 7);
-        row("-0", 0);
-        row("87 %", none);
-        row(" 87%", none);
-        row("101%", none);
-        row("-5%", none);
-        row("8%7", none);
-        row("8.7%", none);
-        row("", none);
-        row("%", none);
-        row("+", none);
-        row("+-7", none);
-        row("99999999999999999999%", none);
-        row("\u0668\u0667%", none); // digits, but not ASCII ones
-    }
-
-    void maximumCapacityText()
-    {
-        QFETCH(QString, text);
-        QFETCH(QVariant, percent);
-        const auto parsed = BatteryHealthSources::maximumCapacityPercentFromProfiler(profilerOutput({batterySection(text)}));
-        QCOMPARE(parsed.has_value(), percent.isValid());
-        if (parsed)
-            QCOMPARE(*parsed, percent.toLongLong());
-    }
-
-    void profilerDocumentShapes_data()
+    void profilerDocument_data()
     {
         QTest::addColumn<QByteArray>("json");
         QTest::addColumn<QVariant>("percent");
         const QVariant none;
+        const auto text = [](const char *text, QVariant percent) {
+            QTest::addRow("text \"%s\"", text) << profilerOutput({batterySection(QString::fromUtf8(text))}) << percent;
+        };
+        text("87%", 87);
+        text("100%", 100);
+        text("%92%", 92);
+        text("87", 87);
+        text("87%%", 87);
+        text("0%", 0);
+        text("+7", 7);
+        text("-0", 0);
+        text("87 %", none);
+        text(" 87%", none);
+        text("101%", none);
+        text("-5%", none);
+        text("8%7", none);
+        text("8.7%", none);
+        text("", none);
+        text("%", none);
+        text("+", none);
+        text("+-7", none);
+        text("99999999999999999999%", none);
+        text("\u0668\u0667%", none); // digits, but not ASCII ones
         const QJsonObject unrelated{{QStringLiteral("sppower_ac_charger_watts"), QStringLiteral("96")}};
-
         QTest::newRow("first unparsable, second 91") << profilerOutput({batterySection(QStringLiteral("n/a")), batterySection(QStringLiteral("91%"))}) << QVariant(91);
         QTest::newRow("first out of range, second used") << profilerOutput({batterySection(QStringLiteral("101%")), batterySection(QStringLiteral("88%"))}) << QVariant(88);
         QTest::newRow("section without health info first") << profilerOutput({unrelated, batterySection(QStringLiteral("80%"))}) << QVariant(80);
@@ -140,7 +90,7 @@ private slots:
         QTest::newRow("empty") << QByteArray() << none;
     }
 
-    void profilerDocumentShapes()
+    void profilerDocument()
     {
         QFETCH(QByteArray, json);
         QFETCH(QVariant, percent);
@@ -152,48 +102,45 @@ private slots:
 
     void profilerRunsAtMostEverySixHours()
     {
-        FakeClock clock;
-        FakeRunner runner;
-        FakePowerSources powerSources;
-        BatteryHealthSources health(runner, powerSources, clock);
-        const WallTime start = clock.time;
+        FakeMachine m;
+        BatteryHealthSources health(m, m, m);
+        const WallTime start = m.time;
 
         // Never tried: the first reading runs the tool, even with nothing cached. It fails.
-        runner.result = exited(1, profilerOutput({batterySection(QStringLiteral("87%"))}));
+        m.profiler = CommandResult{1, profilerOutput({batterySection(QStringLiteral("87%"))})};
         QCOMPARE(health.systemBatteryHealthPercent(), std::nullopt);
-        QCOMPARE(runner.runs, 1);
-        QCOMPARE(runner.lastProgram, QStringLiteral("/usr/sbin/system_profiler"));
-        QCOMPARE(runner.lastArguments, (QStringList{QStringLiteral("-json"), QStringLiteral("SPPowerDataType")}));
+        QCOMPARE(m.profilerRuns, 1);
+        QCOMPARE(m.lastCommand, (QStringList{QStringLiteral("/usr/sbin/system_profiler"), QStringLiteral("-json"), QStringLiteral("SPPowerDataType")}));
         QCOMPARE(health.lastSystemBatteryHealthReadAt(), std::optional(start));
 
         // Tried, no value: absent until the interval has passed, then it runs again.
-        runner.result = exited(0, profilerOutput({batterySection(QStringLiteral("87%"))}));
-        clock.time = start + 21599s;
+        m.profiler = CommandResult{0, profilerOutput({batterySection(QStringLiteral("87%"))})};
+        m.time = start + 21599s;
         QCOMPARE(health.systemBatteryHealthPercent(), std::nullopt);
-        QCOMPARE(runner.runs, 1);
-        clock.time = start + 21600s;
+        QCOMPARE(m.profilerRuns, 1);
+        m.time = start + 21600s;
         QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
-        QCOMPARE(runner.runs, 2);
+        QCOMPARE(m.profilerRuns, 2);
 
         // Value known: a failing attempt keeps it and still waits the full interval.
-        runner.result = std::nullopt; // could not be started
-        clock.time = start + 2 * 21600s;
+        m.profiler = std::nullopt; // could not be started
+        m.time = start + 2 * 21600s;
         QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
-        QCOMPARE(runner.runs, 3);
-        runner.result = exited(0, "not json");
-        clock.time = start + 2 * 21600s + 1s;
+        QCOMPARE(m.profilerRuns, 3);
+        m.profiler = CommandResult{0, "not json"};
+        m.time = start + 2 * 21600s + 1s;
         QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
-        QCOMPARE(runner.runs, 3);
+        QCOMPARE(m.profilerRuns, 3);
 
         // A clock set back keeps the cache.
-        clock.time = start;
+        m.time = start;
         QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
-        QCOMPARE(runner.runs, 3);
+        QCOMPARE(m.profilerRuns, 3);
 
         // An unusable document keeps the value too.
-        clock.time = start + 3 * 21600s;
+        m.time = start + 3 * 21600s;
         QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
-        QCOMPARE(runner.runs, 4);
+        QCOMPARE(m.profilerRuns, 4);
         QCOMPARE(health.cachedSystemBatteryHealthPercent(), std::optional<std::int64_t>(87));
     }
 
@@ -252,11 +199,9 @@ private slots:
     {
         QFETCH(SourceList, sources);
         QFETCH(QString, condition);
-        FakeClock clock;
-        FakeRunner runner;
-        FakePowerSources powerSources;
-        powerSources.descriptions = sources.list;
-        BatteryHealthSources health(runner, powerSources, clock);
+        FakeMachine m;
+        m.powerSourceList = sources.list;
+        BatteryHealthSources health(m, m, m);
         const auto read = health.readBatteryHealthCondition();
         QCOMPARE(read ? rawValue(*read) : QString(), condition);
     }

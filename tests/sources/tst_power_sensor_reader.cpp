@@ -1,8 +1,10 @@
 #include "model/snapshot_json.h"
+#include "platform/recorded/property_list_parser.h"
 #include "sources/power_sensor_reader.h"
 #include "support/fake_machine.h"
 #include "support/json_compare.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTest>
@@ -17,6 +19,8 @@ using Setup = std::function<void(FakeMachine &)>;
 Q_DECLARE_METATYPE(Setup)
 
 namespace {
+
+const QString kFixtures = QStringLiteral(QT_TESTCASE_SOURCEDIR "/fixtures/");
 
 PropertyDictionary &nested(PropertyDictionary &dictionary, const char *name)
 {
@@ -52,44 +56,17 @@ void baseNotebook(FakeMachine &m)
     setFloatKey(m, "PSTR", 12.0f);
     setFloatKey(m, "PDTR", 30.0f);
     setFloatKey(m, "VP0R", 12.4f);
-    const auto text = [](const char *s) { return PropertyValue(QString::fromLatin1(s)); };
-    m.battery = PropertyDictionary{
-        {QStringLiteral("BatteryInstalled"), true},
-        {QStringLiteral("ExternalConnected"), true},
-        {QStringLiteral("IsCharging"), true},
-        {QStringLiteral("CurrentCapacity"), 62},
-        {QStringLiteral("MaxCapacity"), 100},
-        {QStringLiteral("DesignCapacity"), 6075},
-        {QStringLiteral("AppleRawMaxCapacity"), 5600},
-        {QStringLiteral("NominalChargeCapacity"), 5700},
-        {QStringLiteral("Temperature"), 3055},
-        {QStringLiteral("Serial"), text("F8Y1234567AB")},
-        {QStringLiteral("Voltage"), 12400},
-        {QStringLiteral("Amperage"), 1450},
-        {QStringLiteral("AvgTimeToFull"), 95},
-        {QStringLiteral("CycleCount"), 212},
-        {QStringLiteral("DesignCycleCount9C"), 1000},
-        {QStringLiteral("DesignCycleCount70"), 700},
-        {QStringLiteral("DeviceName"), text("bq40z651")},
-        {QStringLiteral("BatteryCellDisconnectCount"), 0},
-        {QStringLiteral("PowerTelemetryData"), PropertyDictionary{{QStringLiteral("SystemLoad"), 11800}}},
-        {QStringLiteral("AdapterDetails"), PropertyDictionary{{QStringLiteral("Description"), text("pd charger")}, {QStringLiteral("Watts"), 70}}},
-        {QStringLiteral("BatteryData"),
-         PropertyDictionary{
-             {QStringLiteral("DesignCapacity"), 6000},
-             {QStringLiteral("FullChargeCapacity"), 5500},
-             {QStringLiteral("RemainingCapacity"), 3472},
-             {QStringLiteral("CellVoltage"), PropertyList{4133, 4135, 4132}},
-             {QStringLiteral("Temperature"), 3000},
-             {QStringLiteral("LifetimeData"),
-              PropertyDictionary{{QStringLiteral("TotalOperatingTime"), 12345},
-                                 {QStringLiteral("MaximumTemperature"), 45},
-                                 {QStringLiteral("MinimumTemperature"), 12},
-                                 {QStringLiteral("AverageTemperature"), 287}}},
-         }},
-    };
-    m.powerSourceList = PropertyList{PropertyDictionary{{QStringLiteral("Type"), text("InternalBattery")},
-                                                        {QStringLiteral("BatteryHealth"), text("Good")}}};
+    static const PropertyValue battery = [] {
+        QFile file(kFixtures + QStringLiteral("reader-notebook-battery.plist"));
+        QString error;
+        const auto parsed = file.open(QIODevice::ReadOnly) ? parsePropertyList(file.readAll(), &error) : std::nullopt;
+        if (!parsed)
+            qFatal("reader-notebook-battery.plist: %s", qPrintable(error));
+        return *parsed;
+    }();
+    m.battery = std::get<PropertyDictionary>(battery.value);
+    m.powerSourceList = PropertyList{PropertyDictionary{{QStringLiteral("Type"), QStringLiteral("InternalBattery")},
+                                                        {QStringLiteral("BatteryHealth"), QStringLiteral("Good")}}};
     m.profiler = CommandResult{0, profilerSaying("87%")};
 }
 
@@ -117,20 +94,11 @@ private slots:
             QTest::newRow(name) << setup << expected;
         };
 
-        row("notebook charging", [](FakeMachine &) {},
-            expect({{"dcVoltageV", 20}, {"dcCurrentA", 1.5}, {"dcPowerW", 30}, {"systemPowerW", 12}, {"batteryFlowW", 18},
-                    {"batteryChargePowerW", 18}, {"hasBattery", true}, {"batteryPercent", 62}, {"batteryHealthPercent", 87},
-                    {"batteryHealthCondition", QStringLiteral("good")}, {"batteryTemperatureC", 30.55}, {"batteryVoltageV", 12.4},
-                    {"batteryCurrentA", 1.45}, {"batteryRailVoltageV", 12.4}, {"cycleCount", 212}, {"designCycleCount", 1000},
-                    {"estimatedMinutesToFull", 95}, {"designCapacityMAH", 6075}, {"fullChargeCapacityMAH", 5600},
-                    {"nominalFullChargeCapacityMAH", 5700}, {"remainingCapacityMAH", 3472},
-                    {"cellVoltagesV", QJsonArray{4.133, 4.135, 4.132}}, {"cellVoltageSource", QStringLiteral("registry")},
-                    {"deviceName", QStringLiteral("bq40z651")}, {"batterySerial", QStringLiteral("F8Y1234567AB")},
-                    {"totalOperatingMinutes", 12345}, {"lifetimeMaxTemperatureC", 45}, {"lifetimeMinTemperatureC", 12},
-                    {"lifetimeAverageTemperatureC", 28.7}, {"lifetimeMaxPackVoltageV", 12.4}, {"lifetimeMinPackVoltageV", 12.4},
-                    {"lifetimeMaxChargeCurrentA", 1.45}, {"lifetimeMaxDischargeCurrentA", null},
-                    {"batterySafetyProtectionCount", 0}, {"isExternalConnected", true}, {"isCharging", true},
-                    {"isDataAvailable", true}, {"adapterDescription", QStringLiteral("pd charger")}}));
+        QFile reading(kFixtures + QStringLiteral("reader-notebook-reading.json")); // every figure of the notebook as it is
+        QVERIFY(reading.open(QIODevice::ReadOnly));
+        const QJsonObject notebook = QJsonDocument::fromJson(reading.readAll()).object();
+        QVERIFY(notebook.size() > 30);
+        row("notebook charging", [](FakeMachine &) {}, notebook);
 
         // External input and system power.
         row("input below its thresholds", [](FakeMachine &m) { setFloatKey(m, "VD0R", 0.3f); setFloatKey(m, "ID0R", 2.0f); },
@@ -315,53 +283,37 @@ private slots:
         }
     }
 
+    // The power keys are probed on the first reading only; a key that turns up later goes unread.
+    void powerKeysAreProbedOnce_data()
+    {
+        QTest::addColumn<bool>("keysPresent");
+        QTest::newRow("keys present") << true;
+        QTest::newRow("no power keys") << false;
+    }
+
     void powerKeysAreProbedOnce()
     {
+        QFETCH(bool, keysPresent);
         auto *machine = new FakeMachine;
         baseNotebook(*machine);
+        const std::set<std::string> keys{"VD0R", "ID0R", "PSTR", "PDTR", "VP0R"};
+        if (!keysPresent) {
+            for (const std::string &k : keys)
+                machine->smc.removeKey(k);
+        }
         PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
         QVERIFY(!reader.availableSMCKeys());
         reader.read();
-        QCOMPARE(reader.availableSMCKeys(), (std::optional<std::set<std::string>>({"VD0R", "ID0R", "PSTR", "PDTR", "VP0R"})));
+        QCOMPARE(reader.availableSMCKeys(), std::optional(keysPresent ? keys : std::set<std::string>{}));
         const int firstRead = machine->smc.callCount();
-        reader.read();
-        QCOMPARE(machine->smc.callCount() - firstRead, 2 * 5); // one readDouble per key, no probing
-    }
-
-    void machineWithoutPowerKeysNeverAsksAgain()
-    {
-        auto *machine = new FakeMachine;
-        baseNotebook(*machine);
-        for (const char *k : {"VD0R", "ID0R", "PSTR", "PDTR", "VP0R"})
-            machine->smc.removeKey(k);
-        PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
-        reader.read();
-        QCOMPARE(reader.availableSMCKeys(), std::optional<std::set<std::string>>(std::set<std::string>{}));
-        const int firstRead = machine->smc.callCount();
-        setFloatKey(*machine, "PSTR", 10.0f); // appears later: not noticed
-        const PowerSnapshot snapshot = reader.read();
-        QCOMPARE(machine->smc.callCount(), firstRead);
-        QCOMPARE(snapshot.systemPowerW, 11.8); // from SystemLoad
-    }
-
-    void profilerRunsOnTheFirstReadOnly()
-    {
-        auto *machine = new FakeMachine;
-        baseNotebook(*machine);
-        PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
-        for (int i = 0; i < 3; ++i) {
-            machine->time += std::chrono::seconds(1);
-            reader.read();
-        }
-        QCOMPARE(machine->profilerRuns, 1);
-    }
-
-    void readingIsStampedWithTheClock()
-    {
-        auto *machine = new FakeMachine;
+        setFloatKey(*machine, "PSTR", 10.0f);
         machine->time += std::chrono::milliseconds(1234);
-        PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
-        QCOMPARE(reader.read().updatedAt, machine->time);
+        const PowerSnapshot snapshot = reader.read();
+        QCOMPARE(machine->smc.callCount() - firstRead, keysPresent ? 2 * 5 : 0); // one readDouble per key, no probing
+        QCOMPARE(snapshot.systemPowerW, keysPresent ? 10.0 : 11.8); // else from SystemLoad
+        QCOMPARE(snapshot.updatedAt, machine->time);
+        reader.read();
+        QCOMPARE(machine->profilerRuns, 1); // only on the first reading
     }
 };
 

@@ -232,25 +232,6 @@ private slots:
         }
         QCOMPARE(table.openConnections(), 0);
     }
-
-    void keyAndTypeCodes_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<std::uint32_t>("code");
-        QTest::newRow("PDTR") << QByteArray("PDTR") << 0x50445452u;
-        QTest::newRow("sp78") << QByteArray("sp78") << 0x73703738u;
-        QTest::newRow("flt with space") << QByteArray("flt ") << 0x666c7420u;
-        QTest::newRow("high bytes") << QByteArray("\xff\x80\x01\x00", 4) << 0xff800100u;
-    }
-
-    void keyAndTypeCodes()
-    {
-        QFETCH(QByteArray, text);
-        QFETCH(std::uint32_t, code);
-        QCOMPARE(StatsSMC::encodeKey(text.toStdString()), code);
-        QCOMPARE(QByteArray::fromStdString(StatsSMC::decodeType(code)), text);
-    }
-
 };
 
 QTEST_GUILESS_MAIN(StatsSMCTest)

@@ -17,6 +17,7 @@ public:
     bool adapterDetails = false;
     WallTime time = WallTime() + std::chrono::hours(24 * 365 * 56);
     int profilerRuns = 0;
+    QStringList lastCommand;
     int powerSourceQueries = 0;
 
     std::unique_ptr<SMCUserClient> createSMCUserClient() override { return std::make_unique<InMemorySMCClient>(smc); }
@@ -32,9 +33,10 @@ public:
         ++powerSourceQueries;
         return powerSourceList;
     }
-    std::optional<CommandResult> run(const QString &, const QStringList &) override
+    std::optional<CommandResult> run(const QString &program, const QStringList &arguments) override
     {
         ++profilerRuns;
+        lastCommand = QStringList{program} + arguments;
         return profiler;
     }
     int operatingSystemMajorVersion() const override { return osMajorVersion; }

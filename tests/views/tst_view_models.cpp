@@ -47,55 +47,6 @@ class ViewModelsTest : public QObject {
 private slots:
     void initTestCase() { QVERIFY(installTextTable(*QCoreApplication::instance())); }
 
-    void paletteColours_data()
-    {
-        QTest::addColumn<int>("role");
-        QTest::addColumn<bool>("dark");
-        QTest::addColumn<QColor>("expected");
-        const auto rgba = [](int r, int g, int b, double a) {
-            QColor c(r, g, b);
-            c.setAlphaF(static_cast<float>(a));
-            return c;
-        };
-        const struct {
-            const char *name;
-            ColorRole role;
-            QColor dark, light;
-        } rows[] = {
-            {"primaryText", ColorRole::primaryText, QColor(245, 245, 247), QColor(29, 29, 31)},
-            {"secondaryText", ColorRole::secondaryText, rgba(235, 235, 245, 0.62), rgba(60, 60, 67, 0.67)},
-            {"tertiaryText", ColorRole::tertiaryText, rgba(235, 235, 245, 0.34), rgba(60, 60, 67, 0.38)},
-            {"separator", ColorRole::separator, rgba(84, 84, 88, 0.56), rgba(60, 60, 67, 0.16)},
-            {"accent", ColorRole::accent, QColor(10, 132, 255), QColor(0, 122, 255)},
-            {"positive", ColorRole::positive, QColor(50, 215, 75), QColor(40, 167, 69)},
-            {"dischargePink", ColorRole::dischargePink, QColor(241, 169, 184), QColor(241, 169, 184)},
-            {"liveGreen", ColorRole::liveGreen, QColor(52, 199, 89), QColor(52, 199, 89)},
-        };
-        for (const auto &row : rows) {
-            QTest::addRow("%s dark", row.name) << int(row.role) << true << row.dark;
-            QTest::addRow("%s light", row.name) << int(row.role) << false << row.light;
-        }
-    }
-
-    void paletteColours()
-    {
-        QFETCH(int, role);
-        QFETCH(bool, dark);
-        QFETCH(QColor, expected);
-        const FerrowPalette palette{dark ? ColorScheme::dark : ColorScheme::light};
-        const QColor actual = palette.color(static_cast<ColorRole>(role));
-        QCOMPARE(actual.rgb(), expected.rgb());
-        QVERIFY(qAbs(actual.alphaF() - expected.alphaF()) < 0.005);
-    }
-
-    void cardTintByScheme()
-    {
-        QCOMPARE(FerrowPalette{ColorScheme::dark}.cardTint().rgb(), QColor(255, 255, 255).rgb());
-        QVERIFY(qAbs(FerrowPalette{ColorScheme::dark}.cardTint().alphaF() - 0.11) < 0.005);
-        QCOMPARE(FerrowPalette{ColorScheme::light}.cardTint().rgb(), QColor(0, 0, 0).rgb());
-        QVERIFY(qAbs(FerrowPalette{ColorScheme::light}.cardTint().alphaF() - 0.075) < 0.005);
-    }
-
     void readableTones_data()
     {
         QTest::addColumn<QColor>("tone");
@@ -253,40 +204,34 @@ private slots:
         QCOMPARE(text.small, small);
     }
 
-    void meterAccessibleText()
+    // One-line texts: each row is what a helper returned and what it should read.
+    void texts_data()
     {
-        QCOMPARE(ferrow::meterAccessibleText(QStringLiteral("VBUS"), 20.12345, QStringLiteral("V")), QStringLiteral("VBUS 20.12345 V"));
-        QCOMPARE(ferrow::meterAccessibleText(QStringLiteral("PWR"), std::nullopt, QStringLiteral("W")), QStringLiteral("PWR \u2014 W"));
+        QTest::addColumn<QString>("actual");
+        QTest::addColumn<QString>("expected");
+        const auto health = [](std::optional<std::int64_t> percent, const QString &condition) {
+            PowerSnapshot s;
+            s.batteryHealthPercent = percent;
+            s.batteryHealthCondition = batteryHealthConditionFromRaw(condition);
+            return batteryHealthText(s);
+        };
+        QTest::newRow("meter, accessible") << meterAccessibleText(QStringLiteral("VBUS"), 20.12345, QStringLiteral("V")) << QStringLiteral("VBUS 20.12345 V");
+        QTest::newRow("meter, accessible, absent") << meterAccessibleText(QStringLiteral("PWR"), std::nullopt, QStringLiteral("W")) << QStringLiteral("PWR \u2014 W");
+        QTest::newRow("health absent") << health(std::nullopt, QStringLiteral("good")) << dash();
+        QTest::newRow("health without condition") << health(92, QString()) << QStringLiteral("92%");
+        QTest::newRow("health with condition") << health(92, QStringLiteral("good"))
+                                               << localizedText("battery.health_value").arg(92).arg(localizedText("battery.health.good"));
+        QTest::newRow("temperature rounds") << batteryTemperatureText(31.26) << QStringLiteral("31.3 \u00B0C");
+        QTest::newRow("temperature below zero") << batteryTemperatureText(-4.0) << QStringLiteral("-4.0 \u00B0C");
+        QTest::newRow("temperature absent") << batteryTemperatureText(std::nullopt) << dash();
+        QTest::newRow("current under 1 A keeps its sign") << signedCurrentText(0.5) << QStringLiteral("+0.500 A");
     }
 
-    void healthAndTemperature_data()
+    void texts()
     {
-        QTest::addColumn<QVariant>("percent");
-        QTest::addColumn<QString>("condition");
-        QTest::addColumn<QString>("health");
-        QTest::newRow("absent") << QVariant() << QStringLiteral("good") << dash();
-        QTest::newRow("no condition") << QVariant(92) << QString() << QStringLiteral("92%");
-        QTest::newRow("with condition") << QVariant(92) << QStringLiteral("good")
-                                        << localizedText("battery.health_value").arg(92).arg(localizedText("battery.health.good"));
-    }
-
-    void healthAndTemperature()
-    {
-        QFETCH(QVariant, percent);
-        QFETCH(QString, condition);
-        QFETCH(QString, health);
-        PowerSnapshot s;
-        if (percent.isValid())
-            s.batteryHealthPercent = percent.toLongLong();
-        s.batteryHealthCondition = batteryHealthConditionFromRaw(condition);
-        QCOMPARE(batteryHealthText(s), health);
-    }
-
-    void temperatureText()
-    {
-        QCOMPARE(batteryTemperatureText(31.26), QStringLiteral("31.3 \u00B0C"));
-        QCOMPARE(batteryTemperatureText(-4.0), QStringLiteral("-4.0 \u00B0C"));
-        QCOMPARE(batteryTemperatureText(std::nullopt), dash());
+        QFETCH(QString, actual);
+        QFETCH(QString, expected);
+        QCOMPARE(actual, expected);
     }
 
     void segmentFills_data()

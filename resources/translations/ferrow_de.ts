@@ -1,0 +1,450 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>Netzbetrieb</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>Warte auf Messwerte</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>Akkubetrieb</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>Wird geladen</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>Lädt nicht</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>Vollständig geladen</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>Netzteil angeschlossen</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>Keine externe Stromversorgung</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 Min.</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1 Std. %L2 Min.</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>Gut</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>Mittel</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>Schlecht</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>Leistungsmonitor</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>Simuliertes Notebook · nicht dieser Rechner</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>Simulierter Desktop · nicht dieser Rechner</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>Wartet</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>AKKU-ENTLADUNG</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>System gesamt</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>Energiefluss live</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>Netzteil</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>Mac-System</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>Stromquelle</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>Abtastrate</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>Akku</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>Kein Akku erkannt</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Dieser Mac läuft nur mit externer Stromversorgung.</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>Ladezyklen</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>Spannung</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>Stromstärke</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>Ladestatus</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>Akkustatus</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>Voll in</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>Zustand</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1 % · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>Beim Anmelden starten</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>Watt in der Menüleiste zeigen</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>Details öffnen</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>Diagramme, Zellen und Akkuverlauf</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>Ferrow-Website öffnen</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>Ferrow beenden</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>Dashboard anzeigen</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>Kein Menüleistenbereich auf diesem Desktop: Das Dashboard öffnet sich als Fenster.</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow (simuliert) · %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>Gerätedetails</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>Leistung, Akku und Zellen auf einen Blick</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>Jetzt messen</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>Seitenleiste ein- oder ausblenden</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>Überwachung</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>Aktualisiert um %1</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>Zu „%1“ blättern</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>Leistung</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>Ladung und Zustand</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>Zellen</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>Betrieb mit externer Stromversorgung</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>Wird geladen</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>Dieser Mac hat keinen Akku; die gesamte Energie kommt aus seinem Netzteil.</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>Die Leistung des Netzteils teilen sich System und Akku.</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>Der Akku versorgt das gesamte System.</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>Leistungsverteilung</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>Die Chip-Leistung bleibt leer: Auf diesem Linux-Rechner darf nur root die Energiezähler des Prozessors lesen. Der Abschnitt „Chip power on Linux“ der README zeigt eine udev-Regel, die es erlaubt.</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>DC-Eingang</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>Akkuleistung</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>Leistungsverlauf</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 Min.</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>Warte auf Messwerte</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>Das Diagramm füllt sich jede Sekunde.</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>Durchschnitt</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>Spitze</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>Watt</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Dieser Mac läuft nur mit externer Stromversorgung.</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>Nennkapazität</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>Volle Ladekapazität</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>Nominelle volle Ladekapazität</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln Mal</numerusform>
+            <numerusform>%Ln Mal</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>Zellspannungen</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>Keine Zellspannungen</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>Dieser Akku meldet seine Zellen nicht.</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>Vom Akku gemeldet</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>Vom System Management Controller gelesen</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>Dieser Mac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>Einmal pro Sekunde</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>GPU-Leistung</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>Akku-Seriennummer</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>Gesamtbetriebszeit</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>Verlauf über die Lebensdauer</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1 T. %L2 Std.</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>Höchste Akkutemperatur</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>Niedrigste Akkutemperatur</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>Mittlere Akkutemperatur</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>Höchste Akkupack-Spannung</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>Niedrigste Akkupack-Spannung</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>Höchster Ladestrom</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>Höchster Entladestrom</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>Schutzereignisse</translation>
+    </message>
+</context>
+</TS>

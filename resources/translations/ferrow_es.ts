@@ -1,0 +1,450 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>Con alimentación externa</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>Esperando datos</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>Con batería</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>Cargando</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>Sin cargar</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>Carga completa</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>Adaptador de corriente conectado</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>Sin alimentación externa</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1 h %L2 min</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>Buena</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>Aceptable</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>Mala</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>Monitor de energía</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>Portátil simulado · no es este equipo</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>Sobremesa simulado · no es este equipo</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>Versión %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>En directo</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>En espera</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>DESCARGA DE BATERÍA</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>Total del sistema</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>Flujo de energía en directo</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>Adaptador</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>Sistema del Mac</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>Fuente de alimentación</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>Frecuencia de muestreo</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>Batería</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>No se detecta batería</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Este Mac funciona solo con alimentación externa.</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>Ciclos de carga</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>Tensión</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>Corriente</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>Estado de carga</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>Estado de la batería</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>Carga completa en</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>Salud</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1 % · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>Abrir al iniciar sesión</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>Mostrar vatios en la barra de menús</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>Abrir detalles</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>Gráficos, celdas e historial de la batería</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>Abrir el sitio web de Ferrow</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>Salir de Ferrow</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>Mostrar panel</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>Este escritorio no tiene barra de menús: el panel se abre como ventana.</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow (simulado) · %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>Detalles del dispositivo</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>Potencia, batería y celdas de un vistazo</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>Tomar una lectura ahora</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>Mostrar u ocultar la barra lateral</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>Sistema</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>Actualizado a las %1</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>Ir a «%1»</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>Resumen</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>Potencia</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>Carga y salud</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>Celdas</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>Funcionando con alimentación externa</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>Cargando</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>Este Mac no tiene batería; toda la energía procede de su fuente de alimentación.</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>La potencia del adaptador se reparte entre el sistema y la batería.</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>La batería alimenta todo el sistema.</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>Distribución de potencia</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>La potencia del chip queda vacía: en esta máquina Linux solo root puede leer los contadores de energía del procesador. La sección «Chip power on Linux» del README muestra una regla udev que lo permite.</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>Entrada de CC</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>Potencia de la batería</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>Historial de potencia</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>Intervalo de tiempo</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>Esperando lecturas</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>El gráfico se completa cada segundo.</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>Media</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>Pico</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>Tiempo</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>Vatios</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Este Mac funciona solo con alimentación externa.</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>Capacidad de diseño</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>Capacidad de carga completa</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>Capacidad nominal de carga completa</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln vez</numerusform>
+            <numerusform>%Ln veces</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>Tensiones de las celdas</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>Sin tensiones de celda</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>Esta batería no informa de sus celdas.</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>Informado por la batería</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>Leído del controlador de gestión del sistema</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>Este Mac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>Una vez por segundo</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>Potencia de la GPU</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>N.º de serie de la batería</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>Tiempo total de funcionamiento</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>Historial de vida útil</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1 d %L2 h</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>Temperatura máxima de la batería</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>Temperatura mínima de la batería</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>Temperatura media de la batería</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>Tensión máxima del paquete</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>Tensión mínima del paquete</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>Corriente de carga máxima</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>Corriente de descarga máxima</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>Eventos de protección de seguridad</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,450 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>Sur secteur</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>En attente des mesures</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>Sur batterie</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>En charge</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>Pas en charge</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>Chargée</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>Adaptateur secteur branché</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>Aucune alimentation externe</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1 h %L2 min</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>Bon</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>Moyen</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>Mauvais</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>Moniteur d’énergie</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>Portable simulé · pas cette machine</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>Ordinateur de bureau simulé · pas cette machine</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>En direct</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>En attente</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>DÉCHARGE BATTERIE</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>Total système</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>Flux d’énergie en direct</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>Adaptateur</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>Système Mac</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>Source d’alimentation</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>Fréquence de mesure</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>Batterie</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>Aucune batterie détectée</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Ce Mac fonctionne uniquement sur alimentation externe.</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>Nombre de cycles</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>Tension</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>Courant</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>État de charge</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>État de la batterie</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>Charge complète dans</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>Santé</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1 % · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>Ouvrir à la connexion</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>Afficher les watts dans la barre des menus</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>Ouvrir les détails</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>Graphiques, cellules et historique de la batterie</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>Ouvrir le site web de Ferrow</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>Quitter Ferrow</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>Afficher le tableau de bord</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>Pas de zone de barre des menus sur ce bureau : le tableau de bord s’ouvre dans une fenêtre.</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow (simulé) · %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>Détails de l’appareil</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>Puissance, batterie et cellules en un coup d’œil</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>Prendre une mesure maintenant</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>Afficher ou masquer la barre latérale</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>Surveillance</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>Système</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>Mis à jour à %1</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>Aller à « %1 »</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>Vue d’ensemble</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>Puissance</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>Charge et santé</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>Cellules</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>Appareil</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>Fonctionne sur alimentation externe</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>En charge</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>Ce Mac n’a pas de batterie ; toute l’énergie vient de son alimentation.</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>La puissance de l’adaptateur est partagée entre le système et la batterie.</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>La batterie alimente tout le système.</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>Répartition de la puissance</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>La puissance de la puce reste vide : sur cette machine Linux, seul root peut lire les compteurs d’énergie du processeur. La section « Chip power on Linux » du README donne une règle udev qui l’autorise.</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>Entrée CC</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>Puissance de la batterie</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>Historique de puissance</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>Période</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>En attente de mesures</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>Le graphique se remplit chaque seconde.</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>Pic</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>Watts</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Ce Mac fonctionne uniquement sur alimentation externe.</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>Capacité d’origine</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>Capacité de charge complète</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>Capacité nominale de charge complète</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln fois</numerusform>
+            <numerusform>%Ln fois</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>Tensions des cellules</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>Aucune tension de cellule</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>Cette batterie ne signale pas ses cellules.</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>Indiqué par la batterie</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>Lu depuis le contrôleur de gestion du système</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>Ce Mac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>Une fois par seconde</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>Puissance du GPU</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>N° de série de la batterie</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>Durée totale de fonctionnement</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>Historique depuis la mise en service</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1 j %L2 h</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>Température maximale de la batterie</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>Température minimale de la batterie</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>Température moyenne de la batterie</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>Tension maximale du bloc</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>Tension minimale du bloc</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>Courant de charge maximal</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>Courant de décharge maximal</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>Événements de protection</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,450 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>Alimentazione esterna</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>In attesa dei dati</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>A batteria</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>In carica</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>Non in carica</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>Carica completa</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>Alimentatore collegato</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>Nessuna alimentazione esterna</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1 h %L2 min</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>Buona</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>Discreta</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>Scarsa</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>Monitor energetico</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>Portatile simulato · non questo computer</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>Desktop simulato · non questo computer</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>Versione %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>In diretta</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>In attesa</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>SCARICA BATTERIA</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>Totale sistema</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>Flusso di energia in diretta</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>Alimentatore</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>Sistema Mac</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>Fonte di alimentazione</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>Frequenza di campionamento</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>Batteria</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>Nessuna batteria rilevata</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Questo Mac funziona solo con alimentazione esterna.</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>Cicli di carica</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>Tensione</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>Corrente</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>Stato di carica</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>Stato della batteria</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>Carica completa tra</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>Condizione</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1% · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>Apri al login</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>Mostra i watt nella barra dei menu</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>Apri dettagli</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>Grafici, celle e cronologia della batteria</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>Apri il sito web di Ferrow</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>Esci da Ferrow</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>Mostra pannello</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>Nessuna area della barra dei menu su questo desktop: il pannello si apre come finestra.</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow (simulato) · %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>Dettagli dispositivo</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>Potenza, batteria e celle a colpo d’occhio</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>Esegui una lettura ora</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>Mostra o nascondi la barra laterale</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>Monitoraggio</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>Sistema</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>Aggiornato alle %1</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>Vai a «%1»</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>Panoramica</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>Potenza</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>Carica e condizione</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>Celle</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>In funzione con alimentazione esterna</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>In carica</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>Questo Mac non ha batteria; tutta l’energia arriva dal suo alimentatore.</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>La potenza dell’alimentatore è divisa tra il sistema e la batteria.</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>La batteria alimenta l’intero sistema.</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>Distribuzione della potenza</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>La potenza del chip resta vuota: su questa macchina Linux solo root può leggere i contatori di energia del processore. La sezione «Chip power on Linux» del README mostra una regola udev che lo consente.</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>Ingresso CC</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>Potenza batteria</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>Cronologia potenza</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>Intervallo di tempo</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>In attesa di letture</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>Il grafico si riempie una volta al secondo.</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>Media</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>Picco</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>Watt</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Questo Mac funziona solo con alimentazione esterna.</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>Capacità di progetto</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>Capacità a piena carica</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>Capacità nominale a piena carica</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln volta</numerusform>
+            <numerusform>%Ln volte</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>Tensioni delle celle</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>Nessuna tensione delle celle</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>Questa batteria non comunica le sue celle.</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>Comunicato dalla batteria</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>Letto dal controller di gestione del sistema</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>Questo Mac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>Una volta al secondo</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>Potenza GPU</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>Numero di serie batteria</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>Tempo di funzionamento totale</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>Cronologia dall’inizio</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1 g %L2 h</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>Temperatura massima della batteria</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>Temperatura minima della batteria</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>Temperatura media della batteria</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>Tensione massima del pacco</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>Tensione minima del pacco</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>Corrente di carica massima</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>Corrente di scarica massima</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>Interventi di protezione</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,449 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>外部電源</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>データを待っています</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>バッテリー駆動</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>充電中</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>充電していません</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>フル充電済み</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>電源アダプタ接続</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>外部電源なし</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1分</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1時間%L2分</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>良好</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>普通</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>低下</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>電力モニタ</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>シミュレートしたノートブック・このマシンではありません</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>シミュレートしたデスクトップ・このマシンではありません</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>バージョン %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>ライブ</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>待機中</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>バッテリー放電</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>システム合計</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>リアルタイム電力フロー</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>アダプタ</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>Macシステム</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>電源</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>サンプリングレート</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>バッテリー</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>バッテリーが見つかりません</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>このMacは外部電源のみで動作します。</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>サイクル数</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>電圧</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>電流</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>充電状況</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>バッテリーの状態</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>フル充電まで</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>健全性</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1% · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>ログイン時に起動</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>メニューバーにワット数を表示</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>詳細を開く</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>グラフ、セル、バッテリーの履歴</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>Ferrowのウェブサイトを開く</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>Ferrowを終了</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>ダッシュボードを表示</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>このデスクトップにはメニューバー領域がないため、ダッシュボードはウインドウとして開きます。</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow(シミュレーション)· %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>デバイスの詳細</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>電力、バッテリー、セルをひと目で</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>更新</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>今すぐ測定</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>サイドバーの表示/非表示</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>モニタ</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>システム</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>%1に更新</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>「%1」へスクロール</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>概要</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>電力</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>充電と健全性</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>セル</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>デバイス</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>外部電源で動作中</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>充電中</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>このMacにはバッテリーがなく、すべての電力を電源から得ています。</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>アダプタの電力をシステムとバッテリーで分け合っています。</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>バッテリーがシステム全体に給電しています。</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>電力の配分</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>チップ電力は表示されません。この Linux マシンでは、プロセッサのエネルギーカウンタを読めるのは root だけです。README の「Chip power on Linux」に、読み取りを許可する udev ルールがあります。</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>DC入力</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>バッテリー電力</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>電力履歴</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>期間</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1分</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>測定値を待っています</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>グラフは毎秒更新されます。</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>平均</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>ピーク</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>ワット</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>このMacは外部電源のみで動作します。</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>設計容量</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>フル充電容量</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>公称フル充電容量</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln 回</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>セル電圧</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>セル電圧なし</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>このバッテリーはセルの情報を報告しません。</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>バッテリーからの報告</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>システム管理コントローラから読み取り</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>このMac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>毎秒1回</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>GPU電力</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>バッテリーのシリアル番号</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>総稼働時間</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>累積履歴</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1日%L2時間</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>バッテリー最高温度</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>バッテリー最低温度</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>バッテリー平均温度</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>パック最高電圧</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>パック最低電圧</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>最大充電電流</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>最大放電電流</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>安全保護の作動回数</translation>
+    </message>
+</context>
+</TS>

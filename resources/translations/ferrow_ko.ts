@@ -1,0 +1,449 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>외부 전원</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>데이터 기다리는 중</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>배터리 사용 중</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>충전 중</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>충전 안 함</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>완전 충전됨</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>전원 어댑터 연결됨</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>외부 전원 없음</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1분</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1시간 %L2분</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>좋음</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>보통</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>나쁨</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>전력 모니터</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>시뮬레이션 노트북 · 이 컴퓨터 아님</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>시뮬레이션 데스크톱 · 이 컴퓨터 아님</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>버전 %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>실시간</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>대기 중</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>배터리 방전</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>시스템 합계</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>실시간 전력 흐름</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>어댑터</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>Mac 시스템</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>전원</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>샘플링 주기</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>배터리</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>배터리가 감지되지 않음</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>이 Mac은 외부 전원으로만 작동합니다.</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>사이클 수</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>전압</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>전류</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>충전 상태</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>배터리 상태</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>완충까지</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>성능 상태</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>온도</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1% · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>로그인 시 실행</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>메뉴 막대에 와트 표시</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>세부 정보 열기</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>차트, 셀 및 배터리 기록</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>Ferrow 웹사이트 열기</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>Ferrow 종료</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>대시보드 보기</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>이 데스크톱에는 메뉴 막대 영역이 없어 대시보드가 창으로 열립니다.</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow(시뮬레이션) · %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>기기 세부 정보</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>전력, 배터리, 셀을 한눈에</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>새로 고침</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>지금 측정</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>사이드바 보기 또는 가리기</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>모니터</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>시스템</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>%1에 업데이트됨</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>%1(으)로 스크롤</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>개요</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>전력</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>충전 및 성능 상태</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>셀</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>기기</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>외부 전원으로 작동 중</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>충전 중</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>이 Mac에는 배터리가 없으며 모든 전력은 전원 장치에서 공급됩니다.</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>어댑터 전력을 시스템과 배터리가 나누어 씁니다.</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>배터리가 시스템 전체에 전력을 공급합니다.</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>전력 분배</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>칩 전력이 비어 있습니다. 이 Linux 컴퓨터에서는 root만 프로세서의 에너지 카운터를 읽을 수 있습니다. README의 “Chip power on Linux”에 이를 허용하는 udev 규칙이 있습니다.</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>DC 입력</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>배터리 전력</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>전력 기록</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>시간 범위</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1분</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>측정값 기다리는 중</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>차트는 1초마다 채워집니다.</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>평균</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>피크</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>시간</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>와트</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>이 Mac은 외부 전원으로만 작동합니다.</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>설계 용량</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>완전 충전 용량</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>공칭 완전 충전 용량</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln회</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>셀 전압</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>셀 전압 없음</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>이 배터리는 셀 정보를 보고하지 않습니다.</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>배터리에서 보고함</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>시스템 관리 컨트롤러에서 읽음</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>이 Mac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>1초에 한 번</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>GPU 전력</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>배터리 일련번호</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>총 작동 시간</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>전체 사용 기록</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1일 %L2시간</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>최고 배터리 온도</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>최저 배터리 온도</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>평균 배터리 온도</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>최고 팩 전압</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>최저 팩 전압</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>최대 충전 전류</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>최대 방전 전류</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>안전 보호 작동 횟수</translation>
+    </message>
+</context>
+</TS>

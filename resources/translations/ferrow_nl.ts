@@ -1,0 +1,450 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>Op externe voeding</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>Wachten op meetgegevens</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>Op batterij</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>Wordt opgeladen</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>Laadt niet op</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>Volledig opgeladen</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>Netadapter aangesloten</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>Geen externe voeding</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1 u %L2 min</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>Goed</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>Redelijk</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>Slecht</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>Stroommonitor</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>Gesimuleerde notebook · niet deze computer</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>Gesimuleerde desktop · niet deze computer</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>Versie %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>Wachten</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>BATTERIJONTLADING</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>Systeem totaal</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>Live energiestroom</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>Adapter</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>Mac-systeem</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>Stroombron</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>Meetfrequentie</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>Batterij</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>Geen batterij gevonden</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Deze Mac werkt alleen op externe voeding.</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>Aantal cycli</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>Spanning</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>Stroom</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>Laadstatus</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>Batterijstatus</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>Vol over</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>Conditie</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>Temperatuur</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1% · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>Openen bij inloggen</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>Watt in menubalk tonen</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>Details openen</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>Grafieken, cellen en batterijgeschiedenis</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>Website van Ferrow openen</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>Ferrow stoppen</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>Dashboard tonen</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>Geen menubalkgebied op dit bureaublad: het dashboard opent als venster.</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow (gesimuleerd) · %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>Apparaatdetails</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>Vermogen, batterij en cellen in één oogopslag</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>Vernieuwen</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>Nu een meting doen</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>Zijbalk tonen of verbergen</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>Systeem</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>Bijgewerkt om %1</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>Scrol naar ‘%1’</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>Overzicht</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>Vermogen</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>Lading en conditie</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>Cellen</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>Apparaat</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>Werkt op externe voeding</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>Wordt opgeladen</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>Deze Mac heeft geen batterij; alle stroom komt van de voeding.</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>Het vermogen van de adapter wordt verdeeld tussen het systeem en de batterij.</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>De batterij voedt het hele systeem.</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>Vermogensverdeling</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>Chipvermogen blijft leeg: op deze Linux-machine mag alleen root de energietellers van de processor lezen. Het gedeelte ‘Chip power on Linux’ van de README toont een udev-regel die het toestaat.</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>DC-ingang</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>Batterijvermogen</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>Vermogensgeschiedenis</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>Tijdsbereik</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>Wachten op metingen</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>De grafiek vult zich elke seconde aan.</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>Gemiddeld</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>Piek</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>Tijd</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>Watt</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Deze Mac werkt alleen op externe voeding.</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>Ontwerpcapaciteit</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>Volledige laadcapaciteit</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>Nominale volledige laadcapaciteit</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln keer</numerusform>
+            <numerusform>%Ln keer</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>Celspanningen</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>Geen celspanningen</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>Deze batterij meldt haar cellen niet.</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>Gemeld door de batterij</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>Gelezen uit de systeembeheercontroller</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>Deze Mac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>Eén keer per seconde</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>GPU-vermogen</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>Serienummer batterij</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>Totale gebruiksduur</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>Geschiedenis over de levensduur</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1 d %L2 u</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>Hoogste batterijtemperatuur</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>Laagste batterijtemperatuur</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>Gemiddelde batterijtemperatuur</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>Hoogste pakketspanning</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>Laagste pakketspanning</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>Hoogste laadstroom</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>Hoogste ontlaadstroom</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>Veiligheidsbeveiligingen</translation>
+    </message>
+</context>
+</TS>

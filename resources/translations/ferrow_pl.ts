@@ -1,0 +1,451 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>Zasilanie zewnętrzne</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>Oczekiwanie na dane</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>Na baterii</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>Ładowanie</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>Nie ładuje</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>W pełni naładowana</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>Zasilacz podłączony</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>Brak zasilania zewnętrznego</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1 godz. %L2 min</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>Dobra</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>Średnia</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>Słaba</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>Monitor zasilania</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>Symulowany notebook · nie ten komputer</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>Symulowany komputer stacjonarny · nie ten komputer</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>Wersja %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>Na żywo</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>Oczekiwanie</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>ROZŁADOWANIE BATERII</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>Łącznie system</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>Przepływ energii na żywo</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>Zasilacz</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>System Maca</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>Źródło zasilania</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>Częstotliwość próbkowania</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>Bateria</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>Nie wykryto baterii</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Ten Mac działa wyłącznie na zasilaniu zewnętrznym.</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>Liczba cykli</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>Napięcie</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>Natężenie</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>Stan ładowania</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>Stan baterii</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>Do pełnego naładowania</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>Kondycja</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1% · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>Otwieraj po zalogowaniu</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>Pokazuj waty na pasku menu</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>Otwórz szczegóły</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>Wykresy, ogniwa i historia baterii</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>Otwórz witrynę Ferrow</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>Zakończ Ferrow</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>Pokaż panel</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>Brak obszaru paska menu na tym pulpicie: panel otwiera się jako okno.</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow (symulacja) · %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>Szczegóły urządzenia</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>Moc, bateria i ogniwa w skrócie</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>Odśwież</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>Wykonaj pomiar teraz</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>Pokaż lub ukryj pasek boczny</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>Zaktualizowano o %1</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>Przewiń do „%1”</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>Przegląd</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>Moc</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>Naładowanie i kondycja</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>Ogniwa</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>Urządzenie</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>Praca na zasilaniu zewnętrznym</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>Ładowanie</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>Ten Mac nie ma baterii; całą energię dostarcza jego zasilacz.</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>Moc zasilacza jest dzielona między system a baterię.</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>Bateria zasila cały system.</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>Rozkład mocy</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>Moc układu pozostaje pusta: na tym komputerze z Linuksem tylko root może odczytać liczniki energii procesora. Sekcja „Chip power on Linux” w README pokazuje regułę udev, która na to pozwala.</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>Wejście DC</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>Moc baterii</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>Historia mocy</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>Zakres czasu</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>Oczekiwanie na pomiary</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>Wykres uzupełnia się co sekundę.</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>Średnia</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>Szczyt</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>Czas</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>Waty</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Ten Mac działa wyłącznie na zasilaniu zewnętrznym.</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>Pojemność projektowa</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>Pojemność przy pełnym naładowaniu</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>Nominalna pojemność przy pełnym naładowaniu</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln raz</numerusform>
+            <numerusform>%Ln razy</numerusform>
+            <numerusform>%Ln razy</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>Napięcia ogniw</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>Brak napięć ogniw</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>Ta bateria nie podaje danych ogniw.</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>Podane przez baterię</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>Odczytane z kontrolera zarządzania systemem</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>Ten Mac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>Raz na sekundę</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>Moc GPU</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>Numer seryjny baterii</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>Łączny czas pracy</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>Historia użytkowania</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1 dn. %L2 godz.</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>Najwyższa temperatura baterii</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>Najniższa temperatura baterii</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>Średnia temperatura baterii</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>Najwyższe napięcie pakietu</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>Najniższe napięcie pakietu</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>Największy prąd ładowania</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>Największy prąd rozładowania</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>Zdarzenia zabezpieczeń</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,450 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>Com alimentação externa</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>Aguardando dados</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>Na bateria</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>Carregando</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>Não está carregando</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>Carga completa</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>Adaptador de energia conectado</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>Sem alimentação externa</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1 h %L2 min</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>Boa</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>Razoável</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>Ruim</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>Monitor de energia</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>Notebook simulado · não é esta máquina</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>Desktop simulado · não é esta máquina</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>Versão %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>Ao vivo</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>Aguardando</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>DESCARGA DA BATERIA</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>Total do sistema</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>Fluxo de energia ao vivo</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>Adaptador</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>Sistema do Mac</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>Fonte de energia</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>Taxa de amostragem</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>Bateria</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>Nenhuma bateria detectada</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Este Mac funciona apenas com alimentação externa.</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>Ciclos de carga</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>Tensão</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>Corrente</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>Status da carga</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>Status da bateria</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>Carga completa em</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>Saúde</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1% · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>Abrir ao iniciar sessão</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>Mostrar watts na barra de menus</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>Abrir detalhes</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>Gráficos, células e histórico da bateria</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>Abrir o site do Ferrow</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>Encerrar o Ferrow</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>Mostrar painel</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>Não há área de barra de menus nesta área de trabalho: o painel abre como janela.</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow (simulado) · %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>Detalhes do dispositivo</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>Potência, bateria e células em um relance</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>Atualizar</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>Fazer uma leitura agora</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>Mostrar ou ocultar a barra lateral</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>Monitoramento</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>Sistema</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>Atualizado às %1</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>Rolar até “%1”</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>Visão geral</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>Potência</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>Carga e saúde</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>Células</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>Funcionando com alimentação externa</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>Carregando</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>Este Mac não tem bateria; toda a energia vem da sua fonte.</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>A potência do adaptador é dividida entre o sistema e a bateria.</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>A bateria alimenta todo o sistema.</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>Distribuição de potência</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>A potência do chip fica vazia: nesta máquina Linux, só o root pode ler os contadores de energia do processador. A seção “Chip power on Linux” do README mostra uma regra udev que permite isso.</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>Entrada CC</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>Potência da bateria</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>Histórico de potência</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>Intervalo de tempo</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 min</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>Aguardando leituras</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>O gráfico é preenchido uma vez por segundo.</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>Média</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>Pico</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>Watts</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Este Mac funciona apenas com alimentação externa.</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>Capacidade de projeto</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>Capacidade de carga total</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>Capacidade nominal de carga total</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln vez</numerusform>
+            <numerusform>%Ln vezes</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>Tensões das células</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>Sem tensões de célula</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>Esta bateria não informa suas células.</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>Informado pela bateria</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>Lido do controlador de gerenciamento do sistema</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>Este Mac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>Uma vez por segundo</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>Potência da GPU</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>Número de série da bateria</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>Tempo total de operação</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>Histórico de vida útil</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1 d %L2 h</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>Temperatura máxima da bateria</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>Temperatura mínima da bateria</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>Temperatura média da bateria</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>Tensão máxima do conjunto</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>Tensão mínima do conjunto</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>Corrente máxima de carga</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>Corrente máxima de descarga</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>Eventos de proteção de segurança</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,451 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>Внешнее питание</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>Ожидание данных</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>От аккумулятора</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>Заряжается</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>Не заряжается</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>Полностью заряжен</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>Адаптер питания подключён</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>Нет внешнего питания</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 мин</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1 ч %L2 мин</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>Хорошее</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>Удовлетворительное</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>Плохое</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>Монитор питания</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>Симулированный ноутбук · не этот компьютер</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>Симулированный настольный ПК · не этот компьютер</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>Версия %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>Онлайн</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>Ожидание</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>РАЗРЯД АККУМУЛЯТОРА</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>Всего по системе</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>Поток энергии в реальном времени</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>Адаптер</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>Система Mac</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>Источник питания</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>Частота опроса</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>Аккумулятор</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>Аккумулятор не обнаружен</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Этот Mac работает только от внешнего питания.</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>Число циклов</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>Напряжение</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>Ток</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>Статус зарядки</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>Статус аккумулятора</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>До полного заряда</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>Состояние</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>Температура</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1 % · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>Открывать при входе</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>Показывать ватты в строке меню</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>Открыть подробности</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>Графики, ячейки и история аккумулятора</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>Открыть сайт Ferrow</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>Завершить Ferrow</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>Показать панель</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>На этом рабочем столе нет строки меню: панель открывается в окне.</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow (симуляция) · %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>Сведения об устройстве</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>Мощность, аккумулятор и ячейки с первого взгляда</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>Снять показания сейчас</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>Показать или скрыть боковую панель</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>Мониторинг</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>Система</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>Обновлено в %1</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>Перейти к разделу «%1»</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>Обзор</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>Мощность</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>Заряд и состояние</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>Ячейки</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>Устройство</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>Работа от внешнего питания</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>Заряжается</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>У этого Mac нет аккумулятора; вся энергия поступает от блока питания.</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>Мощность адаптера делится между системой и аккумулятором.</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>Аккумулятор питает всю систему.</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>Распределение мощности</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>Мощность чипа не показывается: на этом компьютере с Linux счётчики энергии процессора может читать только root. Раздел «Chip power on Linux» в README описывает правило udev, которое это разрешает.</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>Вход пост. тока</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>Мощность аккумулятора</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>История мощности</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>Период</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 мин</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>Ожидание показаний</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>График заполняется каждую секунду.</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>Среднее</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>Пик</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>Ватты</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>Этот Mac работает только от внешнего питания.</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>Проектная ёмкость</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>Ёмкость при полном заряде</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>Номинальная ёмкость при полном заряде</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln раз</numerusform>
+            <numerusform>%Ln раза</numerusform>
+            <numerusform>%Ln раз</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>Напряжения ячеек</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>Нет данных о напряжении ячеек</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>Этот аккумулятор не сообщает данные ячеек.</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>Сообщено аккумулятором</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>Считано с контроллера управления системой</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>Этот Mac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>Раз в секунду</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>Мощность GPU</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>Серийный номер аккумулятора</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>Общее время работы</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>История за весь срок службы</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1 дн. %L2 ч</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>Максимальная температура аккумулятора</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>Минимальная температура аккумулятора</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>Средняя температура аккумулятора</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>Максимальное напряжение блока</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>Минимальное напряжение блока</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>Максимальный ток заряда</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>Максимальный ток разряда</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>Срабатывания защиты</translation>
+    </message>
+</context>
+</TS>

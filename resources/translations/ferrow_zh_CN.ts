@@ -1,0 +1,449 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>外部电源供电</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>正在等待数据</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>电池供电</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>正在充电</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>未在充电</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>已充满</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>已连接电源适配器</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>无外部电源</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 分钟</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1 小时 %L2 分钟</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>良好</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>一般</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>较差</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>电源监视器</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>模拟笔记本 · 非本机</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>模拟台式机 · 非本机</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>实时</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>电池放电</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>系统总功率</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>实时电力流</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>适配器</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>Mac 系统</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>电源</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>采样频率</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>电池</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>未检测到电池</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>这台 Mac 仅使用外部电源。</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>循环次数</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>电压</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>电流</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>充电状态</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>电池状态</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>充满还需</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>健康度</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1% · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>登录时启动</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>在菜单栏显示瓦数</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>打开详细信息</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>图表、电芯和电池历史</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>打开 Ferrow 网站</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>退出 Ferrow</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>显示仪表盘</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>此桌面没有菜单栏区域：仪表盘将以窗口形式打开。</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow（模拟）· %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>设备详细信息</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>功率、电池和电芯一目了然</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>立即读取一次</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>显示或隐藏边栏</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>监视</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>系统</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>更新于 %1</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>滚动到“%1”</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>概览</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>功率</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>电量与健康度</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>电芯</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>正在使用外部电源</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>正在充电</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>这台 Mac 没有电池；所有电力都来自其电源。</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>适配器的功率由系统和电池分享。</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>电池为整个系统供电。</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>功率分配</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>芯片功率为空：在这台 Linux 计算机上，只有 root 能读取处理器的能耗计数器。README 的“Chip power on Linux”一节给出了允许读取的 udev 规则。</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>直流输入</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>电池功率</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>功率历史</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>时间范围</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 分钟</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>正在等待读数</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>图表每秒填充一次。</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>平均</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>峰值</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>瓦特</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>这台 Mac 仅使用外部电源。</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>设计容量</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>满充容量</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>标称满充容量</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln 次</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>电芯电压</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>无电芯电压</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>此电池不报告其电芯。</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>由电池报告</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>从系统管理控制器读取</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>这台 Mac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>每秒一次</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>GPU 功率</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>电池序列号</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>总运行时间</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>全生命周期记录</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1 天 %L2 小时</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>电池最高温度</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>电池最低温度</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>电池平均温度</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>电池组最高电压</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>电池组最低电压</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>最大充电电流</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>最大放电电流</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>安全保护事件</translation>
+    </message>
+</context>
+</TS>

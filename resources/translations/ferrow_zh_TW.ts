@@ -1,0 +1,449 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW">
+<context>
+    <name></name>
+    <message id="status.external_power">
+        <source>External power</source>
+        <translation>外部電源供電</translation>
+    </message>
+    <message id="status.waiting_telemetry">
+        <source>Waiting for telemetry</source>
+        <translation>正在等待資料</translation>
+    </message>
+    <message id="status.on_battery">
+        <source>On battery</source>
+        <translation>電池供電</translation>
+    </message>
+    <message id="status.charging">
+        <source>Charging</source>
+        <translation>充電中</translation>
+    </message>
+    <message id="status.power_connected">
+        <source>Not charging</source>
+        <translation>未在充電</translation>
+    </message>
+    <message id="status.fully_charged">
+        <source>Fully charged</source>
+        <translation>已充飽</translation>
+    </message>
+    <message id="power.ac_connected">
+        <source>AC power connected</source>
+        <translation>已連接電源轉接器</translation>
+    </message>
+    <message id="power.dc_disconnected">
+        <source>No external power</source>
+        <translation>無外部電源</translation>
+    </message>
+    <message id="duration.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 分鐘</translation>
+    </message>
+    <message id="duration.hours_minutes">
+        <source>%L1 h %L2 min</source>
+        <translation>%L1 小時 %L2 分鐘</translation>
+    </message>
+    <message id="battery.health.good">
+        <source>Good</source>
+        <translation>良好</translation>
+    </message>
+    <message id="battery.health.fair">
+        <source>Fair</source>
+        <translation>普通</translation>
+    </message>
+    <message id="battery.health.poor">
+        <source>Poor</source>
+        <translation>不佳</translation>
+    </message>
+    <message id="FERROW">
+        <source>FERROW</source>
+        <translation>FERROW</translation>
+    </message>
+    <message id="%.1f W">
+        <source>%.1f W</source>
+        <translation>%.1f W</translation>
+    </message>
+    <message id="— W">
+        <source>— W</source>
+        <translation>— W</translation>
+    </message>
+    <message id="app.menu_subtitle">
+        <source>Power monitor</source>
+        <translation>電源監控</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated">
+        <source>Simulated notebook · not this machine</source>
+        <translation>模擬筆電 · 非本機</translation>
+    </message>
+    <message id="app.menu_subtitle_simulated_desktop">
+        <source>Simulated desktop · not this machine</source>
+        <translation>模擬桌上型電腦 · 非本機</translation>
+    </message>
+    <message id="app.version">
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message id="status.live">
+        <source>Live</source>
+        <translation>即時</translation>
+    </message>
+    <message id="status.waiting">
+        <source>Waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message id="power.battery_discharge">
+        <source>BATTERY DISCHARGE</source>
+        <translation>電池放電</translation>
+    </message>
+    <message id="power.system_total">
+        <source>System total</source>
+        <translation>系統總功率</translation>
+    </message>
+    <message id="power.live_flow">
+        <source>Live power flow</source>
+        <translation>即時電力流向</translation>
+    </message>
+    <message id="power.adapter">
+        <source>Adapter</source>
+        <translation>轉接器</translation>
+    </message>
+    <message id="power.mac_system">
+        <source>Mac system</source>
+        <translation>Mac 系統</translation>
+    </message>
+    <message id="device.power_source">
+        <source>Power source</source>
+        <translation>電源</translation>
+    </message>
+    <message id="device.sample_rate">
+        <source>Sample rate</source>
+        <translation>取樣頻率</translation>
+    </message>
+    <message id="battery.title">
+        <source>Battery</source>
+        <translation>電池</translation>
+    </message>
+    <message id="battery.not_detected">
+        <source>No battery detected</source>
+        <translation>未偵測到電池</translation>
+    </message>
+    <message id="battery.desktop_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>這台 Mac 僅使用外部電源。</translation>
+    </message>
+    <message id="battery.cycle_count">
+        <source>Cycle count</source>
+        <translation>循環次數</translation>
+    </message>
+    <message id="battery.voltage">
+        <source>Voltage</source>
+        <translation>電壓</translation>
+    </message>
+    <message id="battery.current">
+        <source>Current</source>
+        <translation>電流</translation>
+    </message>
+    <message id="battery.charge_status">
+        <source>Charge status</source>
+        <translation>充電狀態</translation>
+    </message>
+    <message id="battery.status">
+        <source>Battery status</source>
+        <translation>電池狀態</translation>
+    </message>
+    <message id="battery.estimated_full">
+        <source>Time to full</source>
+        <translation>充飽還需</translation>
+    </message>
+    <message id="battery.health">
+        <source>Health</source>
+        <translation>健康度</translation>
+    </message>
+    <message id="battery.temperature">
+        <source>Temperature</source>
+        <translation>溫度</translation>
+    </message>
+    <message id="battery.health_value">
+        <source>%1% · %2</source>
+        <translation>%1% · %2</translation>
+    </message>
+    <message id="setting.launch_at_login">
+        <source>Launch at login</source>
+        <translation>登入時啟動</translation>
+    </message>
+    <message id="setting.menu_bar_power">
+        <source>Show watts in menu bar</source>
+        <translation>在選單列顯示瓦數</translation>
+    </message>
+    <message id="action.open_details">
+        <source>Open details</source>
+        <translation>打開詳細資訊</translation>
+    </message>
+    <message id="action.open_details_subtitle">
+        <source>Charts, cells and battery history</source>
+        <translation>圖表、電芯與電池記錄</translation>
+    </message>
+    <message id="action.open_official_website">
+        <source>Open the Ferrow website</source>
+        <translation>打開 Ferrow 網站</translation>
+    </message>
+    <message id="action.quit">
+        <source>Quit Ferrow</source>
+        <translation>結束 Ferrow</translation>
+    </message>
+    <message id="action.show_dashboard">
+        <source>Show dashboard</source>
+        <translation>顯示儀表板</translation>
+    </message>
+    <message id="tray.no_tray_notice">
+        <source>No menu-bar area on this desktop: the dashboard opens as a window.</source>
+        <translation>此桌面沒有選單列區域：儀表板會以視窗開啟。</translation>
+    </message>
+    <message id="tray.tooltip">
+        <source>Ferrow · %1</source>
+        <translation>Ferrow · %1</translation>
+    </message>
+    <message id="tray.tooltip_simulated">
+        <source>Ferrow (simulated) · %1</source>
+        <translation>Ferrow（模擬）· %1</translation>
+    </message>
+    <message id="window.device_details">
+        <source>Device details</source>
+        <translation>裝置詳細資訊</translation>
+    </message>
+    <message id="app.subtitle">
+        <source>Power, battery and cells at a glance</source>
+        <translation>功率、電池與電芯一覽</translation>
+    </message>
+    <message id="action.refresh">
+        <source>Refresh</source>
+        <translation>重新整理</translation>
+    </message>
+    <message id="action.refresh_help">
+        <source>Take a reading now</source>
+        <translation>立即讀取一次</translation>
+    </message>
+    <message id="action.toggle_sidebar">
+        <source>Show or hide the sidebar</source>
+        <translation>顯示或隱藏側邊欄</translation>
+    </message>
+    <message id="sidebar.monitor">
+        <source>Monitor</source>
+        <translation>監控</translation>
+    </message>
+    <message id="sidebar.system">
+        <source>System</source>
+        <translation>系統</translation>
+    </message>
+    <message id="sidebar.updated_at">
+        <source>Updated at %1</source>
+        <translation>更新於 %1</translation>
+    </message>
+    <message id="accessibility.scroll_to">
+        <source>Scroll to %1</source>
+        <translation>捲動到「%1」</translation>
+    </message>
+    <message id="section.overview">
+        <source>Overview</source>
+        <translation>概覽</translation>
+    </message>
+    <message id="section.power">
+        <source>Power</source>
+        <translation>功率</translation>
+    </message>
+    <message id="section.battery">
+        <source>Charge and health</source>
+        <translation>電量與健康度</translation>
+    </message>
+    <message id="section.cells">
+        <source>Cells</source>
+        <translation>電芯</translation>
+    </message>
+    <message id="section.device">
+        <source>Device</source>
+        <translation>裝置</translation>
+    </message>
+    <message id="overview.external_power">
+        <source>Running on external power</source>
+        <translation>正在使用外部電源</translation>
+    </message>
+    <message id="overview.charging">
+        <source>Charging</source>
+        <translation>充電中</translation>
+    </message>
+    <message id="overview.no_battery_subtitle">
+        <source>This Mac has no battery; all power comes from its supply.</source>
+        <translation>這台 Mac 沒有電池；所有電力都來自其電源供應器。</translation>
+    </message>
+    <message id="overview.power_distribution_subtitle">
+        <source>Adapter power is shared between the system and the battery.</source>
+        <translation>轉接器的功率由系統與電池分享。</translation>
+    </message>
+    <message id="overview.battery_subtitle">
+        <source>The battery supplies the whole system.</source>
+        <translation>電池為整個系統供電。</translation>
+    </message>
+    <message id="power.distribution">
+        <source>Power distribution</source>
+        <translation>功率分配</translation>
+    </message>
+    <message id="power.chip_permission">
+        <source>Chip power stays empty: this Linux machine lets only root read the processor’s energy counters. The README’s “Chip power on Linux” shows a udev rule that allows it.</source>
+        <translation>晶片功率為空：在這台 Linux 電腦上，只有 root 能讀取處理器的能耗計數器。README 的「Chip power on Linux」一節提供了允許讀取的 udev 規則。</translation>
+    </message>
+    <message id="power.dc_input">
+        <source>DC input</source>
+        <translation>直流輸入</translation>
+    </message>
+    <message id="power.battery_power">
+        <source>Battery power</source>
+        <translation>電池功率</translation>
+    </message>
+    <message id="power_history.title">
+        <source>Power history</source>
+        <translation>功率記錄</translation>
+    </message>
+    <message id="power_history.pwr">
+        <source>PWR</source>
+        <translation>PWR</translation>
+    </message>
+    <message id="power_history.range">
+        <source>Time range</source>
+        <translation>時間範圍</translation>
+    </message>
+    <message id="power_history.minutes">
+        <source>%L1 min</source>
+        <translation>%L1 分鐘</translation>
+    </message>
+    <message id="power_history.waiting">
+        <source>Waiting for readings</source>
+        <translation>正在等待讀數</translation>
+    </message>
+    <message id="power_history.waiting_description">
+        <source>The chart fills in once a second.</source>
+        <translation>圖表每秒填入一次。</translation>
+    </message>
+    <message id="power_history.average">
+        <source>Average</source>
+        <translation>平均</translation>
+    </message>
+    <message id="power_history.peak">
+        <source>Peak</source>
+        <translation>峰值</translation>
+    </message>
+    <message id="power_history.time">
+        <source>Time</source>
+        <translation>時間</translation>
+    </message>
+    <message id="power_history.watts">
+        <source>Watts</source>
+        <translation>瓦特</translation>
+    </message>
+    <message id="battery.not_detected_description">
+        <source>This Mac runs on external power only.</source>
+        <translation>這台 Mac 僅使用外部電源。</translation>
+    </message>
+    <message id="battery.design_capacity">
+        <source>Design capacity</source>
+        <translation>設計容量</translation>
+    </message>
+    <message id="battery.full_charge_capacity">
+        <source>Full charge capacity</source>
+        <translation>滿充容量</translation>
+    </message>
+    <message id="battery.nominal_full_charge_capacity">
+        <source>Nominal full charge capacity</source>
+        <translation>標稱滿充容量</translation>
+    </message>
+    <message id="capacity.mah">
+        <source>%L1 mAh</source>
+        <translation>%L1 mAh</translation>
+    </message>
+    <message id="count.times" numerus="yes">
+        <source>%Ln times</source>
+        <translation>
+            <numerusform>%Ln 次</numerusform>
+        </translation>
+    </message>
+    <message id="cells.status">
+        <source>Cell voltages</source>
+        <translation>電芯電壓</translation>
+    </message>
+    <message id="cells.no_data">
+        <source>No cell voltages</source>
+        <translation>沒有電芯電壓</translation>
+    </message>
+    <message id="cells.no_data_description">
+        <source>This battery does not report its cells.</source>
+        <translation>此電池不回報其電芯。</translation>
+    </message>
+    <message id="cells.source.registry">
+        <source>Reported by the battery</source>
+        <translation>由電池回報</translation>
+    </message>
+    <message id="cells.source.smc">
+        <source>Read from the system management controller</source>
+        <translation>從系統管理控制器讀取</translation>
+    </message>
+    <message id="device.title">
+        <source>This Mac</source>
+        <translation>這台 Mac</translation>
+    </message>
+    <message id="device.once_per_second">
+        <source>Once a second</source>
+        <translation>每秒一次</translation>
+    </message>
+    <message id="device.gpu_power">
+        <source>GPU power</source>
+        <translation>GPU 功率</translation>
+    </message>
+    <message id="device.battery_serial">
+        <source>Battery serial</source>
+        <translation>電池序號</translation>
+    </message>
+    <message id="device.total_operating_time">
+        <source>Total operating time</source>
+        <translation>總運作時間</translation>
+    </message>
+    <message id="device.history">
+        <source>Lifetime history</source>
+        <translation>完整使用記錄</translation>
+    </message>
+    <message id="duration.days_hours">
+        <source>%L1 d %L2 h</source>
+        <translation>%L1 天 %L2 小時</translation>
+    </message>
+    <message id="history.max_battery_temperature">
+        <source>Highest battery temperature</source>
+        <translation>電池最高溫度</translation>
+    </message>
+    <message id="history.min_battery_temperature">
+        <source>Lowest battery temperature</source>
+        <translation>電池最低溫度</translation>
+    </message>
+    <message id="history.average_battery_temperature">
+        <source>Average battery temperature</source>
+        <translation>電池平均溫度</translation>
+    </message>
+    <message id="history.max_pack_voltage">
+        <source>Highest pack voltage</source>
+        <translation>電池組最高電壓</translation>
+    </message>
+    <message id="history.min_pack_voltage">
+        <source>Lowest pack voltage</source>
+        <translation>電池組最低電壓</translation>
+    </message>
+    <message id="history.max_charge_current">
+        <source>Highest charge current</source>
+        <translation>最大充電電流</translation>
+    </message>
+    <message id="history.max_discharge_current">
+        <source>Highest discharge current</source>
+        <translation>最大放電電流</translation>
+    </message>
+    <message id="history.safety_protection_count">
+        <source>Safety protection events</source>
+        <translation>安全保護事件</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,302 @@
+#include "app/app_services.h"
+#include "app/text_table.h"
+#include "model/localized_text.h"
+#include "model/power_history.h"
+#include "platform/recorded/recorded_machine.h"
+#include "views/dashboard_view.h"
+#include "views/main_window_view.h"
+#include "views/meter_card.h"
+#include "views/power_flow_view.h"
+#include "views/power_history_chart.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QChartView>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QSplitter>
+#include <QTest>
+#include <QToolButton>
+
+using namespace ferrow;
+using namespace std::chrono_literals;
+
+namespace {
+
+PowerSnapshot recorded(const char *folder)
+{
+    QString error;
+    const std::optional<PowerSnapshot> snapshot = readRecordedSnapshot(QStringLiteral(QT_TESTCASE_SOURCEDIR "/fixtures/") + QLatin1String(folder), &error);
+    if (!snapshot)
+        qFatal("%s", qPrintable(error));
+    return *snapshot;
+}
+
+// Readings a second apart for ten minutes, with a sleep of a minute in the middle.
+PowerHistory historyWithAGap()
+{
+    PowerHistory history;
+    const WallTime start = std::chrono::system_clock::now() - 11min;
+    for (int second = 0; second < 11 * 60; ++second) {
+        if (second >= 300 && second < 360)
+            continue;
+        PowerSnapshot s;
+        s.isExternalConnected = true;
+        s.isDataAvailable = true;
+        s.dcPowerW = 20 + second % 7;
+        s.updatedAt = start + std::chrono::seconds(second);
+        history.append(s);
+    }
+    return history;
+}
+
+// Whether any pixel in the region is within a few steps of the colour.
+bool hasColour(const QImage &image, const QRect &region, const QColor &colour)
+{
+    for (int y = region.top(); y <= region.bottom(); ++y) {
+        for (int x = region.left(); x <= region.right(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (qAbs(pixel.red() - colour.red()) < 12 && qAbs(pixel.green() - colour.green()) < 12 && qAbs(pixel.blue() - colour.blue()) < 12)
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+class ViewsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(installTextTable(*QCoreApplication::instance()));
+        registerBrandFonts();
+    }
+
+    void rendersEachMachine_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<QString>("powerMeter");
+        QTest::addColumn<bool>("gaugeShown");
+        for (const bool dark : {false, true}) {
+            const char *scheme = dark ? "dark" : "light";
+            QTest::addRow("notebook on adapter, %s", scheme) << QStringLiteral("notebook-charging-26") << dark << QStringLiteral("PWR 46.38480 W") << true;
+            QTest::addRow("notebook on battery, %s", scheme) << QStringLiteral("notebook-battery-27") << dark << QStringLiteral("PWR -22.40000 W") << true;
+            QTest::addRow("desktop, %s", scheme) << QStringLiteral("desktop-26") << dark << QStringLiteral("PWR 35.00000 W") << false;
+        }
+    }
+
+    void rendersEachMachine()
+    {
+        QFETCH(QString, folder);
+        QFETCH(bool, dark);
+        QFETCH(QString, powerMeter);
+        QFETCH(bool, gaugeShown);
+
+        DashboardView dashboard;
+        const FerrowPalette palette{dark ? ColorScheme::dark : ColorScheme::light};
+        dashboard.setFerrowPalette(palette);
+        dashboard.setSnapshot(recorded(folder.toLatin1().constData()));
+        dashboard.setVersion(QStringLiteral("1.4.2"));
+        dashboard.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dashboard));
+
+        const QImage image = dashboard.grab().toImage();
+        QCOMPARE(image.size() / image.devicePixelRatio(), DashboardView::kSize);
+        QCOMPARE(image.pixelColor(5, 200).rgb(), palette.panelBackground().rgb());
+        QVERIFY2(hasColour(image, QRect(300, 15, 125, 20), FixedColor::liveGreen), "the live dot");
+        QVERIFY(hasColour(image, QRect(10, 60, 130, 50), FixedColor::meterInput));
+
+        const QList<MeterCard *> meters = dashboard.findChildren<MeterCard *>();
+        QCOMPARE(meters.size(), 3);
+        QVERIFY2(meters[2]->accessibleName() == powerMeter, qPrintable(meters[2]->accessibleName()));
+
+        const QWidget *battery = dashboard.findChild<QWidget *>(QStringLiteral("battery"));
+        const QRect gauge = battery->geometry().translated(battery->parentWidget()->pos()).adjusted(10, 24, -10, -40);
+        QCOMPARE(hasColour(image, gauge, palette.positive()), gaugeShown);
+        QCOMPARE(dashboard.findChild<QLabel *>(QStringLiteral("version"))->text(), QStringLiteral("v1.4.2"));
+    }
+
+    void waitingShowsTheOrangeDot()
+    {
+        DashboardView dashboard;
+        PowerSnapshot waiting = recorded("notebook-battery-27");
+        waiting.isDataAvailable = false;
+        dashboard.setSnapshot(waiting);
+        dashboard.show();
+        const QImage image = dashboard.grab().toImage();
+        QVERIFY(hasColour(image, QRect(300, 15, 125, 20), FixedColor::orange));
+        QVERIFY(!hasColour(image, QRect(300, 15, 125, 20), FixedColor::liveGreen));
+    }
+
+    void flowAnimatesOnlyWhileShownAndMoving()
+    {
+        DashboardView dashboard;
+        PowerFlowView *flow = dashboard.flowView();
+        QVERIFY(!flow->isAnimating());
+        dashboard.show();
+        QVERIFY(flow->isAnimating());
+        dashboard.setReduceMotion(true);
+        QVERIFY(!flow->isAnimating());
+        dashboard.setReduceMotion(false);
+        QVERIFY(flow->isAnimating());
+        dashboard.hide();
+        QVERIFY(!flow->isAnimating());
+    }
+
+    void windowOfEachMachine_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("notebook") << QStringLiteral("notebook-battery-27");
+        QTest::newRow("desktop") << QStringLiteral("desktop-26");
+    }
+
+    void windowOfEachMachine()
+    {
+        QFETCH(QString, folder);
+        MainWindowView window;
+        window.setSnapshot(recorded(folder.toLatin1().constData()));
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCOMPARE(window.minimumSize(), QSize(900, 620));
+        QCOMPARE(window.selection(), MainSection::overview);
+
+        // Picking a section scrolls it to the top and selects it, even the last one.
+        for (const MainSection section : {MainSection::cells, MainSection::history, MainSection::power}) {
+            window.pickSection(section);
+            QCOMPARE(window.selection(), section);
+            QTRY_VERIFY(qAbs(window.sectionBlock(section)->mapTo(window.detailScrollArea()->viewport(), QPoint()).y() - 24) <= 1);
+            QTest::qWait(20);
+            QCOMPARE(window.selection(), section);
+        }
+
+        // Scrolling by hand moves the selection without starting a scroll of its own.
+        QScrollBar *bar = window.detailScrollArea()->verticalScrollBar();
+        const int battery = window.sectionBlock(MainSection::battery)->mapTo(window.detailScrollArea()->widget(), QPoint()).y();
+        bar->setValue(battery - 40);
+        QCOMPARE(window.selection(), MainSection::battery);
+        bar->setValue(0);
+        QCOMPARE(window.selection(), MainSection::overview);
+        QCOMPARE(bar->value(), 0);
+    }
+
+    // The sidebar starts 208 wide and is dragged by dragW; the detail column fills what is left up
+    // to 880 points, from the leading edge, whether the sidebar shows or not.
+    void layoutAtWidth_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("dragW");
+        QTest::addColumn<int>("sidebarW"); // 0: collapsed
+        QTest::newRow("minimum window, sidebar narrowed past its least") << 900 << -60 << 184;
+        QTest::newRow("first size, sidebar widened past its most") << 1040 << 100 << 244;
+        QTest::newRow("wide window, sidebar a little wider") << 1400 << 20 << 228;
+        QTest::newRow("sidebar dragged away") << 1040 << -180 << 0;
+    }
+
+    void layoutAtWidth()
+    {
+        QFETCH(int, width);
+        QFETCH(int, dragW);
+        QFETCH(int, sidebarW);
+        MainWindowView window;
+        window.setSnapshot(recorded("notebook-battery-27"));
+        window.resize(width, 720);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QSplitter *split = window.splitter();
+        const auto detailColumnFills = [&] {
+            const QWidget *column = window.findChild<QWidget *>(QStringLiteral("detailColumn"));
+            QCOMPARE(column->x(), 0);
+            QCOMPARE(column->width(), std::min(880, window.detailScrollArea()->viewport()->width()));
+        };
+        QCOMPARE(split->sizes().constFirst(), 208);
+        detailColumnFills();
+
+        QWidget *handle = split->handle(1);
+        const QPoint grip(handle->width() / 2, handle->height() / 2);
+        QTest::mousePress(handle, Qt::LeftButton, {}, grip);
+        QTest::mouseMove(handle, grip + QPoint(dragW, 0));
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, grip + QPoint(dragW, 0));
+        const int draggedW = split->sizes().constFirst();
+        QVERIFY2(qAbs(draggedW - sidebarW) <= 2, qPrintable(QString::number(draggedW))); // the thin handle's grip is 2 points off its line
+        QCOMPARE(window.sidebarToggle()->isChecked(), sidebarW > 0);
+        QTRY_VERIFY(window.findChild<QWidget *>(QStringLiteral("detailColumn"))->width() == std::min(880, window.detailScrollArea()->viewport()->width()));
+
+        // The toggle hides the sidebar and brings it back as wide as it was last shown.
+        if (sidebarW > 0)
+            window.sidebarToggle()->trigger();
+        QCOMPARE(split->sizes().constFirst(), 0);
+        window.sidebarToggle()->trigger();
+        QCOMPARE(split->sizes().constFirst(), sidebarW > 0 ? draggedW : 208);
+
+        // A long status takes a second line rather than being cut.
+        QLabel *status = window.findChild<QLabel *>(QStringLiteral("sidebarStatus"));
+        status->setText(QStringLiteral("Power connected, not charging"));
+        QTRY_VERIFY(status->height() >= status->heightForWidth(status->width()));
+        QVERIFY(status->geometry().right() < window.findChild<QWidget *>(QStringLiteral("sidebar"))->width());
+
+        // The footer sits right under its divider, which sits right under the scrolling column.
+        const QWidget *divider = window.findChild<QWidget *>(QStringLiteral("footerDivider"));
+        QVERIFY(divider);
+        QCOMPARE(divider->y(), window.detailScrollArea()->geometry().bottom() + 1);
+        QCOMPARE(window.findChild<QWidget *>(QStringLiteral("footer"))->y(), divider->geometry().bottom() + 1);
+    }
+
+    void refreshAsksForAReading()
+    {
+        MainWindowView window;
+        QSignalSpy refresh(&window, &MainWindowView::refreshRequested);
+        window.findChild<QToolButton *>(QStringLiteral("refresh"))->click();
+        QCOMPARE(refresh.size(), 1);
+    }
+
+    void chartDrawsRunsSeparately()
+    {
+        PowerHistoryChart chart;
+        chart.setHistory(PowerHistory());
+        QVERIFY(chart.isWaiting());
+        QVERIFY(chart.averageText().endsWith(QStringLiteral("\u2014")));
+
+        const PowerHistory history = historyWithAGap();
+        chart.setMinutes(15);
+        chart.setHistory(history);
+        QVERIFY(!chart.isWaiting());
+        QCOMPARE(chart.visibleLineCount(), 2);
+        QCOMPARE(chart.visiblePointCount(), qsizetype(history.samples().size()));
+
+        chart.setMinutes(5); // the gap is more than five minutes back: one run
+        QCOMPARE(chart.visibleLineCount(), 1);
+        QCOMPARE(chart.visiblePointCount(), 5 * 60); // the window opens at second 359, inside the gap
+        QVERIFY(chart.peakText().endsWith(QStringLiteral("26.0 W")));
+    }
+
+    void chartAxesAreRoundAndNamed()
+    {
+        PowerHistoryChart chart;
+        chart.setHistory(historyWithAGap()); // 20 to 26 W: a range of 0 to 29.9
+        QCOMPARE(chart.valueTicks(), (QList<double>{0, 10, 20}));
+
+        QString timeFormat = QLocale().timeFormat(QLocale::ShortFormat);
+        timeFormat.remove(QStringLiteral(":ss"));
+        for (const int minutes : {5, 15, 60}) {
+            chart.setMinutes(minutes);
+            const QStringList labels = chart.timeTickLabels();
+            QVERIFY2(labels.size() >= 3 && labels.size() <= 6, qPrintable(labels.join(u' ')));
+            for (const QString &label : labels) // hour and minute only, as the locale writes them
+                QVERIFY2(QLocale().toTime(label, timeFormat).isValid(), qPrintable(label));
+        }
+
+        // The axes' names reach accessibility through the chart's description.
+        const QString description = chart.findChild<QChartView *>()->accessibleDescription();
+        QVERIFY2(description.contains(localizedText("power_history.time")) && description.contains(localizedText("power_history.watts")),
+                 qPrintable(description));
+    }
+};
+
+QTEST_MAIN(ViewsTest)
+#include "tst_views.moc"
