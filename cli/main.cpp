@@ -84,7 +84,11 @@ int main(int argc, char *argv[])
     }
     if (machine->chipPowerNeedsPermission)
         err << "ferrow-cli: the processor's energy counters (/sys/class/powercap/*/energy_uj) are readable by root only, "
-               "so chip power stays empty; the README's \"Chip power on Linux\" shows the udev rule that allows it.\n";
+               "so chip power stays empty; the README's \"Chip power on Linux\" shows the udev rule that allows it." << Qt::endl;
+    // Whoever asked for this machine learns that it was not found, whatever the output form.
+    if (source->kind == MachineSource::Kind::automatic && machine->isSimulated
+        && (parser.isSet(onceOption) || parser.isSet(jsonOption) || parser.isSet(serveOption)))
+        err << "ferrow-cli: reading the " << machine->description << Qt::endl;
     if (parser.isSet(serveOption))
         return serveMetrics(std::make_unique<PowerSensorReader>(std::move(machine->platform)), parser.value(serveOption),
                             machine->description);
