@@ -79,14 +79,12 @@ std::optional<std::string> SysfsFiles::readText(const std::string &path)
 
 std::optional<std::int64_t> SysfsFiles::readInteger(const std::string &path)
 {
-    char buffer[kMaximumFileSize];
-    const std::optional<std::size_t> size = readRaw(path, buffer, sizeof buffer);
-    if (!size)
+    const std::optional<std::string> text = readText(path);
+    if (!text)
         return std::nullopt;
-    const std::string_view text = trimmed(std::string_view(buffer, *size));
     std::int64_t value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (text.empty() || error != std::errc() || end != text.data() + text.size())
+    const auto [end, error] = std::from_chars(text->data(), text->data() + text->size(), value);
+    if (error != std::errc() || end != text->data() + text->size())
         return std::nullopt;
     return value;
 }
