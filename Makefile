@@ -15,13 +15,13 @@ else
 RUN          := $(BUILD_DIR)/src/app/ferrow
 endif
 
-.PHONY: run test bench fuzz deps app build build-sanitize package check-macos clean
+.PHONY: run test bench fuzz deps test-deps app build build-sanitize package check-macos clean
 
 run: app
 	$(RUN)
 
-test: build build-sanitize
-	@tools/install-deps.sh --test
+# The test tools (Python, Prometheus) come first: the build registers the tests that need them.
+test: test-deps build build-sanitize
 	ctest --test-dir $(BUILD_DIR) --output-on-failure -j2
 	ctest --test-dir $(SANITIZE_DIR) --output-on-failure -j2
 
@@ -46,6 +46,9 @@ fuzz:
 
 deps:
 	@tools/install-deps.sh
+
+test-deps:
+	@tools/install-deps.sh --test
 
 $(BUILD_DIR)/build.ninja:
 	@cmake -S . -B $(BUILD_DIR) $(CMAKE_FLAGS) -DCMAKE_BUILD_TYPE=RelWithDebInfo
