@@ -492,7 +492,9 @@ def apply(text, mutant):
 
 # ---------------------------------------------------------------------------------------------
 # Accepted equivalent mutants: blocks of "FILE", "- original line", "+ mutated line", "# why",
-# separated by blank lines. Lines are compared with runs of whitespace collapsed.
+# separated by blank lines. Lines are compared with runs of whitespace collapsed. "FILE:LINE" holds
+# for that line only, for a line written the same way elsewhere in the file (a `return {};`) whose
+# other mutants are not equivalent; when the file changes under it, the mutant shows up again.
 
 def read_equivalents(path):
     accepted = set()
@@ -501,8 +503,13 @@ def read_equivalents(path):
     for block in re.split(r"\n\s*\n", path.read_text(encoding="utf-8")):
         lines = [line for line in block.splitlines() if line.strip() and not line.startswith("#")]
         if len(lines) >= 3 and lines[1].startswith("- ") and lines[2].startswith("+ "):
-            accepted.add((lines[0].strip(), collapse(lines[1][2:]), collapse(lines[2][2:])))
+            name, _, line = lines[0].strip().partition(":")
+            accepted.add((name, int(line) if line.isdigit() else None, collapse(lines[1][2:]), collapse(lines[2][2:])))
     return accepted
+
+
+def is_accepted(accepted, name, mutant):
+    return any((name, line, mutant.original_text, mutant.mutant_text) in accepted for line in (None, mutant.line))
 
 
 # ---------------------------------------------------------------------------------------------
@@ -747,13 +754,12 @@ def check_file(path, args, tests, accepted, journal, results):
                 write_bytes(path, original)
                 journal.restored()
 
-        key = (name, mutant.original_text, mutant.mutant_text)
         mutant.killed_by = detail
         if outcome == "killed":
             result.killed += 1
         elif outcome == "not viable":
             result.not_viable += 1
-        elif key in accepted:
+        elif is_accepted(accepted, name, mutant):
             result.equivalents.append(mutant)
             outcome = "equivalent"
         else:

@@ -78,8 +78,6 @@ private slots:
         QTest::addColumn<Segments>("sampleSegments");
         QTest::addColumn<qint64>("finalSegment");
 
-        QTest::newRow("1 s apart: one run") << Readings{{0, 5}, {1, 6}, {2, 7}} << QList<double>{0, 1, 2}
-                                             << Segments{0, 0, 0} << qint64(0);
         QTest::newRow("3.0 s gap keeps the run") << Readings{{0, 5}, {3, 6}} << QList<double>{0, 3} << Segments{0, 0} << qint64(0);
         QTest::newRow("3.5 s gap breaks it") << Readings{{0, 5}, {3.5, 6}} << QList<double>{0, 3.5} << Segments{0, 1} << qint64(1);
         QTest::newRow("same timestamp is ignored entirely")
@@ -90,10 +88,6 @@ private slots:
             << Readings{{0, 5}, unusableAt(2), {4, 6}} << QList<double>{0, 4} << Segments{0, 1} << qint64(1);
         QTest::newRow("unusable readings move the clock too")
             << Readings{{0, 5}, unusableAt(2), {1, 6}, unusableAt(2)} << QList<double>{0} << Segments{0} << qint64(1);
-        QTest::newRow("each unusable reading bumps")
-            << Readings{unusableAt(0), unusableAt(1), unusableAt(2), {3, 6}} << QList<double>{3} << Segments{3} << qint64(3);
-        QTest::newRow("no data on a desktop is unusable")
-            << Readings{unusableAt(0)} << QList<double>{} << Segments{} << qint64(1);
         QTest::newRow("clock set back ten minutes")
             << Readings{{600, 5}, {601, 6}, {2, 7}, {3, 8}, unusableAt(4), {602, 9}} << QList<double>{600, 601, 602}
             << Segments{0, 0, 0} << qint64(0);

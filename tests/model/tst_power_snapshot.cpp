@@ -15,7 +15,6 @@ Q_DECLARE_METATYPE(ferrow::PowerSnapshot)
 namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInf = std::numeric_limits<double>::infinity();
 
 // A notebook reading; the rows below change only what they are about.
 PowerSnapshot notebook(bool external, bool charging, bool dataAvailable, double flowW)
@@ -76,14 +75,12 @@ private slots:
             << notebook(true, true, true, -4.0) << QVariant(31.5) << QVariant(1.575);
         QTest::newRow("adapter, NaN flow: input side")
             << notebook(true, false, true, kNaN) << QVariant(31.5) << QVariant(1.575);
-        QTest::newRow("on battery, +0.04 dead band") << notebook(false, false, true, 0.04) << QVariant(0.0) << QVariant(0.0);
         QTest::newRow("on battery, -0.04 dead band") << notebook(false, false, true, -0.04) << QVariant(0.0) << QVariant(0.0);
         QTest::newRow("on battery, -0.05 passes dead band")
             << notebook(false, false, true, -0.05) << QVariant(-0.05) << QVariant(-0.05 / 12.0);
         QTest::newRow("battery side without data: absent") << notebook(false, false, false, -6.0) << QVariant() << QVariant();
         QTest::newRow("input side without data: present")
             << notebook(true, false, false, 2.0) << QVariant(31.5) << QVariant(1.575);
-        QTest::newRow("pack voltage divides") << notebook(false, false, true, -6.0) << QVariant(-6.0) << QVariant(-0.5);
 
         PowerSnapshot rail = notebook(false, false, true, -6.0);
         rail.batteryRailVoltageV = 15.0;
@@ -93,9 +90,6 @@ private slots:
         noVoltage.batteryVoltageV.reset();
         QTest::newRow("no voltage: current absent") << noVoltage << QVariant(-6.0) << QVariant();
 
-        PowerSnapshot zeroVolts = notebook(false, false, true, -6.0);
-        zeroVolts.batteryVoltageV = 0.0;
-        QTest::newRow("0 V divides to -infinity") << zeroVolts << QVariant(-6.0) << QVariant(-kInf);
         PowerSnapshot zeroOverZero = notebook(false, false, true, 0.01);
         zeroOverZero.batteryVoltageV = 0.0;
         QTest::newRow("0 W over 0 V is NaN") << zeroOverZero << QVariant(0.0) << QVariant(kNaN);
@@ -120,7 +114,6 @@ private slots:
         desktop.isCharging = true;
         desktop.batteryChargePowerW = 20.0;
         QTest::newRow("no battery wins over everything") << desktop << QByteArray("status.external_power");
-        QTest::newRow("no telemetry") << notebook(true, true, false, 5.0) << QByteArray("status.waiting_telemetry");
         QTest::newRow("no telemetry wins over on battery")
             << notebook(false, false, false, -5.0) << QByteArray("status.waiting_telemetry");
         QTest::newRow("on battery") << notebook(false, false, true, -5.0) << QByteArray("status.on_battery");
@@ -133,7 +126,6 @@ private slots:
         };
         QTest::newRow("charging at 0.3 W exactly, 80 %") << connected(true, 0.3, 80) << QByteArray("status.power_connected");
         QTest::newRow("charging at 0.31 W") << connected(true, 0.31, 80) << QByteArray("status.charging");
-        QTest::newRow("charging at 2 W, 100 %") << connected(true, 2.0, 100) << QByteArray("status.charging");
         QTest::newRow("not charging, 100 %") << connected(false, 0.0, 100) << QByteArray("status.fully_charged");
         QTest::newRow("not charging, 99 %") << connected(false, 0.0, 99) << QByteArray("status.power_connected");
         QTest::newRow("charge power without charging flag") << connected(false, 5.0, 100) << QByteArray("status.fully_charged");
@@ -166,17 +158,14 @@ private slots:
         QTest::newRow("desktop on AC") << source(false, true, 0.0) << localizedText("power.ac_connected");
         QTest::newRow("desktop without external power") << source(false, false, 12.0) << localizedText("power.dc_disconnected");
         QTest::newRow("notebook at 20 V") << source(true, true, 20.0) << QStringLiteral("USB-C PD \u00B7 20.0 V");
-        QTest::newRow("notebook at 5 V") << source(true, true, 5.0) << QStringLiteral("USB-C PD \u00B7 5.0 V");
         QTest::newRow("rounding to one decimal") << source(true, true, 14.96) << QStringLiteral("USB-C PD \u00B7 15.0 V");
         QTest::newRow("notebook at 0.1 V") << source(true, true, 0.1) << localizedText("power.dc_disconnected");
+        QTest::newRow("notebook at 0.11 V") << source(true, true, 0.11) << QStringLiteral("USB-C PD \u00B7 0.1 V");
         QTest::newRow("notebook unplugged") << source(true, false, 20.0) << localizedText("power.dc_disconnected");
         QTest::newRow("to full: absent") << toFull(std::nullopt) << QStringLiteral("\u2014");
-        QTest::newRow("to full: zero") << toFull(0) << QStringLiteral("\u2014");
         QTest::newRow("to full: negative") << toFull(-5) << QStringLiteral("\u2014");
         QTest::newRow("to full: 1") << toFull(1) << QStringLiteral("1 min");
-        QTest::newRow("to full: 59") << toFull(59) << QStringLiteral("59 min");
         QTest::newRow("to full: 60") << toFull(60) << QStringLiteral("1 h 0 min");
-        QTest::newRow("to full: 125") << toFull(125) << QStringLiteral("2 h 5 min");
         QTest::newRow("to full: 5999") << toFull(5999) << QStringLiteral("99 h 59 min");
         QTest::newRow("missing text shows its key") << localizedText("no.such.key") << QStringLiteral("no.such.key");
         QTest::newRow("missing format too") << localizedFormat("no.such.key", {3, 4}) << QStringLiteral("no.such.key");
@@ -194,40 +183,6 @@ private slots:
         QFETCH(QString, actual);
         QFETCH(QString, expected);
         QCOMPARE(actual, expected);
-    }
-
-    void equality_data()
-    {
-        QTest::addColumn<PowerSnapshot>("changed");
-        QTest::addColumn<bool>("equalToItself");
-
-        const PowerSnapshot base = notebook(true, true, true, 3.0);
-        auto with = [&](auto change) {
-            PowerSnapshot s = base;
-            change(s);
-            return s;
-        };
-        QTest::newRow("updatedAt") << with([](PowerSnapshot &s) { s.updatedAt += std::chrono::milliseconds(1); }) << true;
-        QTest::newRow("chip power present") << with([](PowerSnapshot &s) { s.chipPower.gpu = 0.0; }) << true;
-        QTest::newRow("optional zero vs absent") << with([](PowerSnapshot &s) { s.cycleCount = 0; }) << true;
-        QTest::newRow("cell list longer") << with([](PowerSnapshot &s) { s.cellVoltagesV.push_back(3.9); }) << true;
-        QTest::newRow("string") << with([](PowerSnapshot &s) { s.deviceName = QString(); }) << true;
-        QTest::newRow("NaN flow") << with([](PowerSnapshot &s) { s.batteryFlowW = kNaN; }) << false;
-        QTest::newRow("NaN chip power") << with([](PowerSnapshot &s) { s.chipPower.ram = kNaN; }) << false;
-        QTest::newRow("NaN optional") << with([](PowerSnapshot &s) { s.lifetimeMaxPackVoltageV = kNaN; }) << false;
-        QTest::newRow("NaN cell") << with([](PowerSnapshot &s) { s.cellVoltagesV = {3.9, kNaN}; }) << false;
-    }
-
-    void equality()
-    {
-        QFETCH(PowerSnapshot, changed);
-        QFETCH(bool, equalToItself);
-        const PowerSnapshot base = notebook(true, true, true, 3.0);
-        QVERIFY(base == base);
-        QVERIFY(!(changed == base));
-        QCOMPARE(changed == changed, equalToItself);
-        const PowerSnapshot copy = changed;
-        QCOMPARE(copy == changed, equalToItself);
     }
 
     void emptyIsStampedOnceAndBlank()
@@ -251,7 +206,6 @@ private slots:
         QTest::newRow("registry") << QStringLiteral("registry") << false << true;
         QTest::newRow("smc") << QStringLiteral("smc") << false << true;
         QTest::newRow("wrong case") << QStringLiteral("Good") << false << false;
-        QTest::newRow("empty") << QString() << false << false;
     }
 
     void enumerationsRoundTripByRawValue()

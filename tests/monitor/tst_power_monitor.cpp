@@ -62,11 +62,11 @@ private:
     GatedReader *reader = nullptr;
     std::unique_ptr<PowerMonitor> monitor;
 
-    void makeMonitor(bool heldOpen = false)
+    void makeMonitor(bool heldOpen = false, std::chrono::milliseconds interval = kFastInterval)
     {
         auto owned = std::make_unique<GatedReader>(heldOpen);
         reader = owned.get();
-        monitor = std::make_unique<PowerMonitor>(std::move(owned), sleepWake, kFastInterval);
+        monitor = std::make_unique<PowerMonitor>(std::move(owned), sleepWake, interval);
     }
 
 private slots:
@@ -103,6 +103,20 @@ private slots:
         QTRY_COMPARE(reader->started(), 1);
         QVERIFY(monitor->isRefreshing());
         QVERIFY(monitor->snapshot() == PowerSnapshot::empty()); // nothing published before the first read ends
+    }
+
+    // With a long interval: starting again asks for nothing, no tick comes early, and a wake
+    // asks for a reading at once.
+    void wakeReadsAtOnceAndTicksWaitTheirInterval()
+    {
+        makeMonitor(true, 10s);
+        monitor->start();
+        QTRY_VERIFY(!monitor->isRefreshing());
+        monitor->start();
+        runEventLoopFor(100ms);
+        QCOMPARE(reader->started(), 1);
+        emit sleepWake->didWake();
+        QTRY_COMPARE(reader->started(), 2);
     }
 
     void ticksAreDroppedWhileAReadIsInFlight()

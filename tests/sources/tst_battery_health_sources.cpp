@@ -105,43 +105,31 @@ private slots:
         FakeMachine m;
         BatteryHealthSources health(m, m, m);
         const WallTime start = m.time;
+        const std::optional<std::int64_t> none, known = 87;
+        const auto readAt = [&](std::chrono::seconds after, std::optional<std::int64_t> percent, int runs) {
+            m.time = start + after;
+            QCOMPARE(health.systemBatteryHealthPercent(), percent);
+            QCOMPARE(m.profilerRuns, runs);
+        };
 
         // Never tried: the first reading runs the tool, even with nothing cached. It fails.
-        m.profiler = CommandResult{1, profilerOutput({batterySection(QStringLiteral("87%"))})};
-        QCOMPARE(health.systemBatteryHealthPercent(), std::nullopt);
-        QCOMPARE(m.profilerRuns, 1);
+        const QByteArray good = profilerOutput({batterySection(QStringLiteral("87%"))});
+        m.profiler = CommandResult{1, good};
+        readAt(0s, none, 1);
         QCOMPARE(m.lastCommand, (QStringList{QStringLiteral("/usr/sbin/system_profiler"), QStringLiteral("-json"), QStringLiteral("SPPowerDataType")}));
         QCOMPARE(health.lastSystemBatteryHealthReadAt(), std::optional(start));
-
         // Tried, no value: absent until the interval has passed, then it runs again.
-        m.profiler = CommandResult{0, profilerOutput({batterySection(QStringLiteral("87%"))})};
-        m.time = start + 21599s;
-        QCOMPARE(health.systemBatteryHealthPercent(), std::nullopt);
-        QCOMPARE(m.profilerRuns, 1);
-        m.time = start + 21600s;
-        QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
-        QCOMPARE(m.profilerRuns, 2);
-
+        m.profiler = CommandResult{0, good};
+        readAt(21599s, none, 1);
+        readAt(21600s, known, 2);
         // Value known: a failing attempt keeps it and still waits the full interval.
         m.profiler = std::nullopt; // could not be started
-        m.time = start + 2 * 21600s;
-        QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
-        QCOMPARE(m.profilerRuns, 3);
+        readAt(2 * 21600s, known, 3);
         m.profiler = CommandResult{0, "not json"};
-        m.time = start + 2 * 21600s + 1s;
-        QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
-        QCOMPARE(m.profilerRuns, 3);
-
-        // A clock set back keeps the cache.
-        m.time = start;
-        QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
-        QCOMPARE(m.profilerRuns, 3);
-
-        // An unusable document keeps the value too.
-        m.time = start + 3 * 21600s;
-        QCOMPARE(health.systemBatteryHealthPercent(), std::optional<std::int64_t>(87));
-        QCOMPARE(m.profilerRuns, 4);
-        QCOMPARE(health.cachedSystemBatteryHealthPercent(), std::optional<std::int64_t>(87));
+        readAt(2 * 21600s + 1s, known, 3);
+        readAt(0s, known, 3); // a clock set back keeps the cache
+        readAt(3 * 21600s, known, 4); // an unusable document keeps the value too
+        QCOMPARE(health.cachedSystemBatteryHealthPercent(), known);
     }
 
     void capacityHealthPercent_data()

@@ -103,26 +103,25 @@ private slots:
         // External input and system power.
         row("input below its thresholds", [](FakeMachine &m) { setFloatKey(m, "VD0R", 0.3f); setFloatKey(m, "ID0R", 2.0f); },
             expect({{"dcVoltageV", 0}, {"dcCurrentA", 2}, {"dcPowerW", 0}, {"isDataAvailable", true}}));
-        row("all-zero voltage counts as 0", [](FakeMachine &m) { m.smc.setKey("VD0R", "flt ", {0, 0, 0, 0}); },
-            expect({{"dcVoltageV", 0}, {"dcPowerW", 0}, {"isDataAvailable", true}}));
+        row("input just over its floors", [](FakeMachine &m) { setFloatKey(m, "VD0R", 0.45f); setFloatKey(m, "ID0R", 0.055f); },
+            expect({{"dcVoltageV", 0.45}, {"dcCurrentA", 0.055}}));
         row("no voltage key: PDTR", [](FakeMachine &m) { m.smc.removeKey("VD0R"); setFloatKey(m, "PDTR", 45.0f); },
             expect({{"dcVoltageV", 0}, {"dcCurrentA", 1.5}, {"dcPowerW", 45}}));
         row("no input keys at all", [](FakeMachine &m) { for (const char *k : {"VD0R", "ID0R", "PDTR"}) m.smc.removeKey(k); },
             expect({{"dcPowerW", 0}, {"isDataAvailable", false}, {"batteryFlowW", -12}}));
         row("input voltage out of range", [](FakeMachine &m) { setFloatKey(m, "VD0R", 301.0f); },
             expect({{"dcVoltageV", 0}, {"dcPowerW", 30}})); // falls back to PDTR
-        row("SystemLoad fallback", [](FakeMachine &m) {
-                m.smc.removeKey("PSTR");
-                nested(*m.battery, "PowerTelemetryData")[QStringLiteral("SystemLoad")] = -12500;
-            },
-            expect({{"systemPowerW", 12.5}, {"isDataAvailable", true}}));
         row("zero PSTR beats SystemLoad", [](FakeMachine &m) { m.smc.setKey("PSTR", "flt ", {0, 0, 0, 0}); },
             expect({{"systemPowerW", 0}, {"batteryFlowW", 30}}));
         row("no system power", [](FakeMachine &m) { m.smc.removeKey("PSTR"); removeTop(m, "PowerTelemetryData"); },
             expect({{"systemPowerW", 0}, {"isDataAvailable", false}, {"batteryFlowW", 30}}));
+        row("nothing measured: the pack's own flow", [](FakeMachine &m) {
+                for (const char *k : {"VD0R", "ID0R", "PDTR", "PSTR"})
+                    m.smc.removeKey(k);
+                removeTop(m, "PowerTelemetryData");
+            },
+            expect({{"batteryFlowW", 17.98}, {"isDataAvailable", false}}));
         row("no rail voltage", [](FakeMachine &m) { m.smc.removeKey("VP0R"); }, expect({{"batteryRailVoltageV", null}}));
-        row("zero rail voltage is absent", [](FakeMachine &m) { m.smc.setKey("VP0R", "flt ", {0, 0, 0, 0}); },
-            expect({{"batteryRailVoltageV", null}}));
 
         // Flow and charging.
         row("adapter cannot carry the load", [](FakeMachine &m) { setFloatKey(m, "PSTR", 40.0f); top(m, "IsCharging") = false; },
@@ -131,41 +130,36 @@ private slots:
             expect({{"batteryChargePowerW", 0}, {"isCharging", false}, {"batteryCurrentA", -1.45}}));
         row("IsCharging missing: not charging", [](FakeMachine &m) { removeTop(m, "IsCharging"); setFloatKey(m, "PSTR", 29.5f); },
             expect({{"isCharging", false}, {"batteryCurrentA", -1.45}}));
-        row("charge power 0.6 W overrides IsCharging", [](FakeMachine &m) { top(m, "IsCharging") = false; setFloatKey(m, "PSTR", 29.4f); },
+        row("charge power 0.55 W overrides IsCharging", [](FakeMachine &m) { top(m, "IsCharging") = false; setFloatKey(m, "PSTR", 29.45f); },
             expect({{"isCharging", true}}));
         row("charge power 0.5 W does not", [](FakeMachine &m) { top(m, "IsCharging") = false; setFloatKey(m, "PSTR", 29.5f); },
             expect({{"isCharging", false}, {"batteryChargePowerW", 0.5}}));
         row("ExternalConnected missing, adapter details", [](FakeMachine &m) { removeTop(m, "ExternalConnected"); m.adapterDetails = true; },
             expect({{"isExternalConnected", true}, {"batteryChargePowerW", 18}}));
-        row("ExternalConnected missing, no adapter", [](FakeMachine &m) { removeTop(m, "ExternalConnected"); },
-            expect({{"isExternalConnected", false}, {"batteryChargePowerW", 0}, {"isCharging", false}}));
 
         // Charge and capacities.
         row("MaxCapacity 0", [](FakeMachine &m) { top(m, "MaxCapacity") = 0; top(m, "CurrentCapacity") = 50; },
             expect({{"batteryPercent", 100}}));
+        row("CurrentCapacity missing", [](FakeMachine &m) { removeTop(m, "CurrentCapacity"); }, expect({{"batteryPercent", 0}}));
         row("MaxCapacity missing", [](FakeMachine &m) { removeTop(m, "MaxCapacity"); top(m, "CurrentCapacity") = 87; },
             expect({{"batteryPercent", 87}}));
         row("capacities in mAh", [](FakeMachine &m) { top(m, "MaxCapacity") = 5600; top(m, "CurrentCapacity") = 2799; },
             expect({{"batteryPercent", 49}}));
         row("CurrentCapacity beyond 64-bit arithmetic",
-            [](FakeMachine &m) { top(m, "CurrentCapacity") = std::numeric_limits<std::int64_t>::max(); }, expect({{"batteryPercent", 0}}));
-        row("design capacity from BatteryData", [](FakeMachine &m) { top(m, "DesignCapacity") = 0; },
-            expect({{"designCapacityMAH", 6000}}));
+            [](FakeMachine &m) { top(m, "CurrentCapacity") = std::numeric_limits<std::int64_t>::max() / 100 * 3; }, expect({{"batteryPercent", 0}}));
+        row("CurrentCapacity at the edge of 64-bit arithmetic",
+            [](FakeMachine &m) { top(m, "CurrentCapacity") = std::numeric_limits<std::int64_t>::max() / 100; }, expect({{"batteryPercent", 100}}));
         row("full capacity fallback", [](FakeMachine &m) { top(m, "AppleRawMaxCapacity") = 100001; },
             expect({{"fullChargeCapacityMAH", 5500}}));
-        row("remaining capacity out of range", [](FakeMachine &m) { nested(*m.battery, "BatteryData")[QStringLiteral("RemainingCapacity")] = 0; },
-            expect({{"remainingCapacityMAH", null}}));
+        row("remaining capacity of 1 mAh", [](FakeMachine &m) { nested(*m.battery, "BatteryData")[QStringLiteral("RemainingCapacity")] = 1; },
+            expect({{"remainingCapacityMAH", 1}}));
 
         // Health.
-        row("profiler fails: nominal capacity ratio", [](FakeMachine &m) { m.profiler = CommandResult{1, {}}; },
-            expect({{"batteryHealthPercent", 94}}));
         row("profiler fails, no nominal: full capacity ratio",
             [](FakeMachine &m) { m.profiler = std::nullopt; removeTop(m, "NominalChargeCapacity"); }, expect({{"batteryHealthPercent", 92}}));
         row("health condition absent", [](FakeMachine &m) { m.powerSourceList = std::nullopt; }, expect({{"batteryHealthCondition", null}}));
 
         // Temperature.
-        row("top temperature out of range: no fallback", [](FakeMachine &m) { top(m, "Temperature") = 12000; },
-            expect({{"batteryTemperatureC", null}}));
         row("nested temperature when top is missing", [](FakeMachine &m) { removeTop(m, "Temperature"); },
             expect({{"batteryTemperatureC", 30}}));
 
@@ -177,7 +171,8 @@ private slots:
         row("sign follows charging, store keeps it",
             [](FakeMachine &m) { top(m, "IsCharging") = false; setFloatKey(m, "PSTR", 40.0f); top(m, "Amperage") = 1500; },
             expect({{"batteryCurrentA", -1.5}, {"lifetimeMaxChargeCurrentA", 1.5}}));
-        row("150 A", [](FakeMachine &m) { top(m, "Amperage") = 150000; },
+        row("100 A is the most", [](FakeMachine &m) { top(m, "Amperage") = 100000; }, expect({{"batteryCurrentA", 100}}));
+        row("100.05 A", [](FakeMachine &m) { top(m, "Amperage") = 100050; },
             expect({{"batteryCurrentA", null}, {"lifetimeMaxChargeCurrentA", null}}));
         row("amperage as an unsigned bit pattern", [](FakeMachine &m) {
                 top(m, "ExternalConnected") = false;
@@ -200,9 +195,12 @@ private slots:
                 top(m, "Voltage") = 30000;
             },
             expect({{"estimatedMinutesToFull", 5999}}));
-        row("no estimate when full", [=](FakeMachine &m) { estimating(m, 2.1f, 6000, 6000); }, expect({{"estimatedMinutesToFull", null}}));
+        row("estimate at 0.35 W", [=](FakeMachine &m) { estimating(m, 2.1f, 6000, 3000); setFloatKey(m, "PSTR", 41.65f); },
+            expect({{"estimatedMinutesToFull", 5999}}));
+        row("no estimate without remaining charge", [=](FakeMachine &m) { estimating(m, 2.1f, 6000, 0); }, expect({{"estimatedMinutesToFull", null}}));
         row("no estimate below 0.3 W", [=](FakeMachine &m) { estimating(m, 2.1f, 6000, 3000); setFloatKey(m, "PSTR", 41.9f); },
             expect({{"estimatedMinutesToFull", null}}));
+        row("reported time of 1 minute", [](FakeMachine &m) { top(m, "AvgTimeToFull") = 1; }, expect({{"estimatedMinutesToFull", 1}}));
         row("reported time while discharging", [](FakeMachine &m) { top(m, "ExternalConnected") = false; top(m, "AvgTimeToFull") = 90; },
             expect({{"estimatedMinutesToFull", 90}}));
         row("invalid reported time: estimate, not BatteryData's", [](FakeMachine &m) {
@@ -221,12 +219,20 @@ private slots:
         row("lifetime values out of range", [](FakeMachine &m) {
                 PropertyDictionary &lifetime = nested(nested(*m.battery, "BatteryData"), "LifetimeData");
                 lifetime[QStringLiteral("MaximumTemperature")] = 121;
-                lifetime[QStringLiteral("AverageTemperature")] = 305;
+                lifetime[QStringLiteral("AverageTemperature")] = 1201;
+                lifetime.erase(QStringLiteral("MinimumTemperature"));
                 lifetime[QStringLiteral("TotalOperatingTime")] = 10'000'001;
                 top(m, "BatteryCellDisconnectCount") = -1;
             },
-            expect({{"lifetimeMaxTemperatureC", null}, {"lifetimeAverageTemperatureC", 30.5}, {"totalOperatingMinutes", null},
-                    {"batterySafetyProtectionCount", null}}));
+            expect({{"lifetimeMaxTemperatureC", null}, {"lifetimeAverageTemperatureC", null}, {"lifetimeMinTemperatureC", null},
+                    {"totalOperatingMinutes", null}, {"batterySafetyProtectionCount", null}}));
+        row("lifetime temperatures at their bounds", [](FakeMachine &m) {
+                PropertyDictionary &lifetime = nested(nested(*m.battery, "BatteryData"), "LifetimeData");
+                lifetime[QStringLiteral("MaximumTemperature")] = 120;
+                lifetime[QStringLiteral("MinimumTemperature")] = -50;
+                lifetime[QStringLiteral("AverageTemperature")] = -501; // tenths: just under the bound
+            },
+            expect({{"lifetimeMaxTemperatureC", 120}, {"lifetimeMinTemperatureC", -50}, {"lifetimeAverageTemperatureC", null}}));
 
         // Operating-system branches.
         row("version 27: history and SMC cells allowed", [](FakeMachine &m) {
@@ -246,11 +252,6 @@ private slots:
                 setFloatKey(m, "SBAV", 4.1f);
             },
             expect({{"lifetimeMinTemperatureC", 30.55}, {"cellVoltageSource", null}, {"cellVoltagesV", QJsonArray{}}}));
-        row("version 27: SMC sensors win", [](FakeMachine &m) {
-                m.osMajorVersion = 27;
-                m.smc.setKey("TB1T", "sp78", smcBytesOfFixedPoint(33.0, 8));
-            },
-            expect({{"batteryTemperatureC", 33}, {"lifetimeMaxTemperatureC", 33}}));
 
         // Machines without a battery.
         row("desktop", [](FakeMachine &m) { m.battery = std::nullopt; },
@@ -258,8 +259,6 @@ private slots:
                     {"batteryPercent", 0}, {"batteryHealthPercent", null}, {"batteryHealthCondition", null}, {"cellVoltagesV", QJsonArray{}},
                     {"batteryTemperatureC", null}, {"isCharging", false}, {"lifetimeMaxPackVoltageV", null}, {"dcPowerW", 30},
                     {"systemPowerW", 12}, {"isDataAvailable", true}, {"designCapacityMAH", null}}));
-        row("BatteryInstalled missing: a battery", [](FakeMachine &m) { removeTop(m, "BatteryInstalled"); },
-            expect({{"hasBattery", true}, {"batteryPercent", 62}, {"batteryHealthPercent", 87}, {"isCharging", true}}));
         row("battery not installed", [](FakeMachine &m) { top(m, "BatteryInstalled") = false; },
             expect({{"hasBattery", false}, {"batteryPercent", 0}, {"isExternalConnected", true}, {"isCharging", false},
                     {"designCapacityMAH", 6075}, {"cycleCount", 212}, {"batteryVoltageV", 12.4}, {"batteryHealthPercent", null},

@@ -76,13 +76,9 @@ private slots:
         QCOMPARE(readings(&value), expected);
     }
 
-    void missingValueIsMissingForEveryKind()
-    {
-        QCOMPARE(readings(nullptr), QStringLiteral("int=- bool=- string=- dict=- list=-"));
-    }
-
     void lookupChainsStopAtTheFirstMissingLink()
     {
+        QCOMPARE(readings(nullptr), QStringLiteral("int=- bool=- string=- dict=- list=-"));
         const PropertyDictionary battery{
             {QStringLiteral("BatteryData"),
              PropertyDictionary{{QStringLiteral("LifetimeData"), PropertyDictionary{{QStringLiteral("TotalOperatingTime"), 1234}}},

@@ -178,50 +178,46 @@ private slots:
         QCOMPARE(sectionFollowingScroll({}), std::nullopt);
     }
 
-    void maskedSerial_data()
+    // One-line texts and figures: each row is what a helper gave and what it should read.
+    void texts_data()
     {
-        QTest::addColumn<bool>("hasBattery");
-        QTest::addColumn<QVariant>("serial");
-        QTest::addColumn<QString>("shown");
-        QTest::newRow("ten characters") << true << QVariant(QStringLiteral("ABCDEFGHIJ")) << QStringLiteral("ABCD\u2022\u2022\u2022\u2022GHIJ");
-        QTest::newRow("nine characters") << true << QVariant(QStringLiteral("ABCDEFGHI")) << QStringLiteral("ABCD\u2022\u2022\u2022\u2022FGHI");
-        QTest::newRow("eight characters") << true << QVariant(QStringLiteral("ABCDEFGH")) << QString(8, QChar(0x2022));
-        QTest::newRow("three characters") << true << QVariant(QStringLiteral("ABC")) << QString(3, QChar(0x2022));
-        QTest::newRow("empty") << true << QVariant(QString()) << QStringLiteral("\u2014");
-        QTest::newRow("absent") << true << QVariant() << QStringLiteral("\u2014");
-        QTest::newRow("no battery") << false << QVariant(QStringLiteral("ABCDEFGHIJ")) << QStringLiteral("\u2014");
+        QTest::addColumn<QString>("actual");
+        QTest::addColumn<QString>("expected");
+        const auto serial = [](bool hasBattery, std::optional<QString> text) {
+            PowerSnapshot s;
+            s.hasBattery = hasBattery;
+            s.batterySerial = text;
+            return ferrow::maskedSerial(s);
+        };
+        const QString dash = QStringLiteral("\u2014");
+        QTest::newRow("serial of ten") << serial(true, QStringLiteral("ABCDEFGHIJ")) << QStringLiteral("ABCD\u2022\u2022\u2022\u2022GHIJ");
+        QTest::newRow("serial of nine") << serial(true, QStringLiteral("ABCDEFGHI")) << QStringLiteral("ABCD\u2022\u2022\u2022\u2022FGHI");
+        QTest::newRow("serial of eight") << serial(true, QStringLiteral("ABCDEFGH")) << QString(8, QChar(0x2022));
+        QTest::newRow("serial of three") << serial(true, QStringLiteral("ABC")) << QString(3, QChar(0x2022));
+        QTest::newRow("serial empty") << serial(true, QString()) << dash;
+        QTest::newRow("serial absent") << serial(true, std::nullopt) << dash;
+        QTest::newRow("serial without battery") << serial(false, QStringLiteral("ABCDEFGHIJ")) << dash;
+        QTest::newRow("59 minutes") << durationText(59) << localizedFormat("duration.minutes", {59});
+        QTest::newRow("60 minutes") << durationText(60) << localizedFormat("duration.hours_minutes", {1, 0});
+        QTest::newRow("1439 minutes") << durationText(1439) << localizedFormat("duration.hours_minutes", {23, 59});
+        QTest::newRow("1440 minutes") << durationText(1440) << localizedFormat("duration.days_hours", {1, 0});
+        QTest::newRow("1500 minutes") << durationText(1500) << localizedFormat("duration.days_hours", {1, 1});
+        QTest::newRow("duration absent") << durationText(std::nullopt) << dash;
+        QTest::newRow("duration text filled in") << QString::number(durationText(1500).contains(u'%')) << QStringLiteral("0");
+        QTest::newRow("grid of 6 cells") << QString::number(cellGridColumns(6)) << QStringLiteral("4");
+        QTest::newRow("grid of 3 cells") << QString::number(cellGridColumns(3)) << QStringLiteral("3");
+        QTest::newRow("grid of no cells") << QString::number(cellGridColumns(0)) << QStringLiteral("0");
+        QTest::newRow("cell bar at 2.5 V") << QString::number(cellBarFraction(2.5)) << QStringLiteral("0");
+        QTest::newRow("cell bar at 3 V") << QString::number(cellBarFraction(3.0)) << QStringLiteral("0");
+        QTest::newRow("cell bar at 3.625 V") << QString::number(cellBarFraction(3.625)) << QStringLiteral("0.5");
+        QTest::newRow("cell bar at 4.4 V") << QString::number(cellBarFraction(4.4)) << QStringLiteral("1");
     }
 
-    void maskedSerial()
+    void texts()
     {
-        QFETCH(bool, hasBattery);
-        QFETCH(QVariant, serial);
-        QFETCH(QString, shown);
-        PowerSnapshot s;
-        s.hasBattery = hasBattery;
-        if (serial.isValid())
-            s.batterySerial = serial.toString();
-        QCOMPARE(ferrow::maskedSerial(s), shown);
-    }
-
-    void durationText_data()
-    {
-        QTest::addColumn<QVariant>("minutes");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("59 minutes") << QVariant(59) << localizedFormat("duration.minutes", {59});
-        QTest::newRow("60 minutes") << QVariant(60) << localizedFormat("duration.hours_minutes", {1, 0});
-        QTest::newRow("1439 minutes") << QVariant(1439) << localizedFormat("duration.hours_minutes", {23, 59});
-        QTest::newRow("1440 minutes") << QVariant(1440) << localizedFormat("duration.days_hours", {1, 0});
-        QTest::newRow("1500 minutes") << QVariant(1500) << localizedFormat("duration.days_hours", {1, 1});
-        QTest::newRow("absent") << QVariant() << QStringLiteral("\u2014");
-    }
-
-    void durationText()
-    {
-        QFETCH(QVariant, minutes);
-        QFETCH(QString, text);
-        QCOMPARE(ferrow::durationText(minutes.isValid() ? std::optional<std::int64_t>(minutes.toLongLong()) : std::nullopt), text);
-        QVERIFY(!text.contains(u'%'));
+        QFETCH(QString, actual);
+        QFETCH(QString, expected);
+        QCOMPARE(actual, expected);
     }
 
     // Seconds in the locale's own way of writing a time, and no time zone however the locale sets it off.
@@ -245,17 +241,6 @@ private slots:
         QString shown = timeOfDayText(QTime(14, 3, 9), QLocale(locale));
         shown.replace(QChar(0x202F), u' '); // newer locale data puts a narrow space before "PM"
         QCOMPARE(shown, text);
-    }
-
-    void cells()
-    {
-        QCOMPARE(cellGridColumns(6), 4);
-        QCOMPARE(cellGridColumns(3), 3);
-        QCOMPARE(cellGridColumns(0), 0);
-        QCOMPARE(cellBarFraction(2.5), 0.0);
-        QCOMPARE(cellBarFraction(3.0), 0.0);
-        QCOMPARE(cellBarFraction(3.625), 0.5);
-        QCOMPARE(cellBarFraction(4.4), 1.0);
     }
 
     void overviewAndDistribution_data()

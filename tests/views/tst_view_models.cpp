@@ -101,10 +101,6 @@ private slots:
         QTest::newRow("on adapter: pack figures, plus sign") << notebook(true, true, 18.0)
             << QStringList{text("battery.cycle_count") + QStringLiteral("=143@0"), text("battery.voltage") + QStringLiteral("=12.00 V@0"),
                            text("battery.current") + QStringLiteral("=+1.500 A@5"), text("battery.charge_status") + u'=' + text("status.charging") + QStringLiteral("@4")};
-        QTest::newRow("flow -0.05 exactly is still on adapter") << notebook(true, false, -0.05)
-            << QStringList{text("battery.cycle_count") + QStringLiteral("=143@0"), text("battery.voltage") + QStringLiteral("=12.00 V@0"),
-                           text("battery.current") + QStringLiteral("=+1.500 A@5"),
-                           text("battery.charge_status") + u'=' + text("status.power_connected") + QStringLiteral("@4")};
         QTest::newRow("flow -0.06: battery-powered, rail voltage, pink") << notebook(true, false, -0.06)
             << QStringList{text("battery.cycle_count") + QStringLiteral("=143@0"), text("battery.voltage") + QStringLiteral("=12.50 V@0"),
                            text("battery.current") + QStringLiteral("=-0.005 A@6"),
