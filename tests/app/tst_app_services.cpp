@@ -34,54 +34,46 @@ private slots:
         QCOMPARE(appVersionString(text(shortVersion), text(build)), shown);
     }
 
-    void autostartEntryRoundTrip()
+    // Each row switches the entry on, lets the desktop append a line, and switches it off again.
+    void autostartEntry_data()
     {
-        QTemporaryDir home;
-        XdgAutostartLoginItem item(home.filePath(QStringLiteral("config/autostart")), QStringLiteral("/opt/Ferrow \"beta\"/ferrow"));
-        QVERIFY(!item.isEnabled());
-        QVERIFY(item.setEnabled(true));
-        QVERIFY(item.isEnabled());
-        QFile entry(item.entryPath());
-        QVERIFY(entry.open(QIODevice::ReadOnly));
-        const QByteArray text = entry.readAll();
-        QVERIFY(text.startsWith("[Desktop Entry]\n"));
-        QVERIFY2(text.contains("Exec=\"/opt/Ferrow \\\"beta\\\"/ferrow\"\n"), text.constData());
-        QVERIFY(item.setEnabled(false));
-        QVERIFY(!item.isEnabled());
-        QVERIFY(item.setEnabled(false)); // already off: nothing to do, no failure
-    }
-
-    void autostartEntryExecMatchesTheInstalledDesktopEntry()
-    {
+        QTest::addColumn<QString>("command"); // empty: this program
+        QTest::addColumn<bool>("folderBlocked");
+        QTest::addColumn<QByteArray>("appended");
+        QTest::addColumn<QByteArray>("execLine"); // empty: not checked
+        QTest::addColumn<bool>("enabledAfter");
+        QTest::newRow("quotes escaped") << QStringLiteral("/opt/Ferrow \"beta\"/ferrow") << false << QByteArray()
+                                        << QByteArray("\nExec=\"/opt/Ferrow \\\"beta\\\"/ferrow\"\n") << true;
         // The packaged desktop entry says Exec=ferrow; a plain command must not gain quotes.
-        QTemporaryDir home;
-        XdgAutostartLoginItem item(home.path(), QStringLiteral("ferrow"));
-        QVERIFY(item.setEnabled(true));
-        QFile entry(item.entryPath());
-        QVERIFY(entry.open(QIODevice::ReadOnly));
-        QVERIFY(entry.readAll().contains("\nExec=ferrow\n"));
+        QTest::newRow("plain command") << QStringLiteral("ferrow") << false << QByteArray() << QByteArray("\nExec=ferrow\n") << true;
+        QTest::newRow("switched off by the desktop") << QString() << false << QByteArray("Hidden=true\n") << QByteArray() << false;
+        QTest::newRow("a file where the folder should be") << QString() << true << QByteArray() << QByteArray() << false;
     }
 
-    void autostartEntrySwitchedOffByTheDesktop()
+    void autostartEntry()
     {
+        QFETCH(QString, command);
+        QFETCH(bool, folderBlocked);
+        QFETCH(QByteArray, appended);
+        QFETCH(QByteArray, execLine);
+        QFETCH(bool, enabledAfter);
         QTemporaryDir home;
-        XdgAutostartLoginItem item(home.path());
-        QVERIFY(item.setEnabled(true));
-        QFile entry(item.entryPath());
-        QVERIFY(entry.open(QIODevice::Append));
-        entry.write("Hidden=true\n");
-        entry.close();
+        const QString folder = home.filePath(QStringLiteral("autostart"));
+        if (folderBlocked)
+            QVERIFY(QFile(folder).open(QIODevice::WriteOnly));
+        XdgAutostartLoginItem item(folder, command);
         QVERIFY(!item.isEnabled());
-    }
-
-    void autostartRefusedReportsFailure()
-    {
-        QTemporaryDir home;
-        QFile blocker(home.filePath(QStringLiteral("autostart")));
-        QVERIFY(blocker.open(QIODevice::WriteOnly)); // a file where the folder should be
-        blocker.close();
-        XdgAutostartLoginItem item(blocker.fileName());
-        QVERIFY(!item.setEnabled(true));
+        QCOMPARE(item.setEnabled(true), !folderBlocked);
+        QFile entry(item.entryPath());
+        if (!folderBlocked) {
+            QVERIFY(entry.open(QIODevice::ReadWrite)); // read to the end, then append
+            const QByteArray text = entry.readAll();
+            QVERIFY2(text.startsWith("[Desktop Entry]\n") && text.contains(execLine), text.constData());
+            entry.write(appended);
+            entry.close();
+        }
+        QCOMPARE(item.isEnabled(), enabledAfter);
+        QVERIFY(item.setEnabled(false)); // when already off too: nothing to do, no failure
         QVERIFY(!item.isEnabled());
     }
 

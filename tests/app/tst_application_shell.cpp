@@ -85,14 +85,6 @@ private slots:
         QSettings().remove(AppSetting::showPowerInMenuBar);
     }
 
-    void garbageInTheSettingGivesTheDefault()
-    {
-        QSettings().setValue(AppSetting::showPowerInMenuBar, QStringLiteral("\x01garbage"));
-        auto shell = makeShell(false);
-        QVERIFY(shell->dashboard()->findChild<QCheckBox *>(QStringLiteral("showPowerInMenuBar"))->isChecked());
-        QSettings().remove(AppSetting::showPowerInMenuBar);
-    }
-
     void refusedLoginItemSnapsTheBoxBack_data()
     {
         QTest::addColumn<bool>("refuses");

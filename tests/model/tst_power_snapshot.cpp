@@ -172,10 +172,6 @@ private slots:
         QTest::newRow("health names") << localizedName(BatteryHealthCondition::good) + u'/' + localizedName(BatteryHealthCondition::fair) + u'/'
                 + localizedName(BatteryHealthCondition::poor)
                                       << localizedText("battery.health.good") + u'/' + localizedText("battery.health.fair") + u'/' + localizedText("battery.health.poor");
-        for (const char *key : {"status.external_power", "status.waiting_telemetry", "status.on_battery", "status.charging", "status.power_connected",
-                                "status.fully_charged", "power.ac_connected", "power.dc_disconnected", "battery.health.good",
-                                "battery.health.fair", "battery.health.poor"}) // English text, not the key
-            QTest::addRow("text of %s", key) << QString::number(localizedText(key) == QLatin1String(key)) << QStringLiteral("0");
     }
 
     void texts()
