@@ -6,6 +6,7 @@
 #include "platform/simulated/simulated_machine.h"
 #include "sources/power_sensor_reader.h"
 #include "support/json_compare.h"
+#include "support/json_rows.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -129,59 +130,29 @@ private slots:
         QVERIFY2(error.contains(message), qPrintable(error));
     }
 
-    void brokenRecording_data()
-    {
-        QTest::addColumn<QByteArray>("machine");
-        QTest::addColumn<QByteArray>("battery"); // empty: no battery.plist
-        QTest::addColumn<QString>("message");
-        const QByteArray good = "{\"format\":\"ferrow-recording/1\",\"osMajorVersion\":26}";
-        const auto with = [](const char *members) {
-            return QByteArray("{\"format\":\"ferrow-recording/1\",\"osMajorVersion\":26,") + members + "}";
-        };
-        QTest::newRow("machine.json not JSON") << QByteArray("{\n  \"format\": ferrow\n}") << QByteArray()
-                                               << QStringLiteral("machine.json: line 2, column 15: illegal value");
-        QTest::newRow("wrong format") << QByteArray("{\"format\":\"v2\"}") << QByteArray() << QStringLiteral("machine.json: format: expected");
-        QTest::newRow("version not a number") << QByteArray("{\"format\":\"ferrow-recording/1\",\"osMajorVersion\":\"26\"}") << QByteArray()
-                                              << QStringLiteral("machine.json: osMajorVersion:");
-        QTest::newRow("SMC key too long") << with("\"smc\":{\"VD0RX\":{\"type\":\"flt \",\"bytes\":\"00\"}}") << QByteArray()
-                                          << QStringLiteral("smc.VD0RX: a key is four ASCII characters");
-        QTest::newRow("SMC bytes not hex") << with("\"smc\":{\"VD0R\":{\"type\":\"flt \",\"bytes\":\"zz00\"}}") << QByteArray()
-                                           << QStringLiteral("smc.VD0R.bytes: expected hexadecimal");
-        QTest::newRow("SMC type wrong") << with("\"smc\":{\"VD0R\":{\"type\":\"float\",\"bytes\":\"00\"}}") << QByteArray()
-                                        << QStringLiteral("smc.VD0R.type:");
-        QTest::newRow("energy counter not a number") << with("\"energy\":[{\"uptime\":1,\"channels\":[[\"Energy Model\",\"CPU Energy\",\"mJ\",\"12\"]]}]")
-                                                     << QByteArray() << QStringLiteral("energy[0].channels[0]: expected [group, name, unit");
-        QTest::newRow("energy without uptime") << with("\"energy\":[{\"channels\":[]}]") << QByteArray() << QStringLiteral("energy[0].uptime:");
-        QTest::newRow("profiler of the wrong kind") << with("\"systemProfiler\":{\"exitStatus\":0,\"output\":12}") << QByteArray()
-                                                    << QStringLiteral("systemProfiler.output:");
-        QTest::newRow("stored entry under a foreign key") << with("\"preferences\":{\"showPowerInMenuBar\":\"true\"}") << QByteArray()
-                                                          << QStringLiteral("preferences.showPowerInMenuBar: not a stored battery history entry");
-        QTest::newRow("stored entry not text") << with("\"preferences\":{\"batteryTemperatureHistory.v1.ab\":{\"maximumC\":40}}") << QByteArray()
-                                               << QStringLiteral("preferences.batteryTemperatureHistory.v1.ab: expected the stored JSON as a string");
-        QTest::newRow("battery.plist broken") << good << plist("<dict><key>Voltage</key><integer>x</integer></dict>")
-                                              << QStringLiteral("battery.plist: line 3, column");
-        QTest::newRow("battery.plist of a list of strings") << good << plist("<array><string>x</string></array>")
-                                                            << QStringLiteral("battery.plist: the first entry is not a dictionary");
-    }
+    // Each row's "machine" members go over those of a good machine.json, or "machineText" stands for it.
+    void brokenRecording_data() { addJsonRows("broken-recordings.json"); }
 
     void brokenRecording()
     {
-        QFETCH(QByteArray, machine);
-        QFETCH(QByteArray, battery);
-        QFETCH(QString, message);
+        QFETCH(QJsonObject, row);
+        QJsonObject machine{{QStringLiteral("format"), QStringLiteral("ferrow-recording/1")}, {QStringLiteral("osMajorVersion"), 26}};
+        const QJsonObject changes = row[u"machine"].toObject();
+        for (auto member = changes.begin(); member != changes.end(); ++member)
+            machine[member.key()] = member.value();
         QTemporaryDir folder;
         QFile machineFile(folder.filePath(QStringLiteral("machine.json")));
         QVERIFY(machineFile.open(QIODevice::WriteOnly));
-        machineFile.write(machine);
+        machineFile.write(row.contains(u"machineText") ? row[u"machineText"].toString().toUtf8() : QJsonDocument(machine).toJson());
         machineFile.close();
-        if (!battery.isEmpty()) {
+        if (row.contains(u"batteryPlist")) {
             QFile batteryFile(folder.filePath(QStringLiteral("battery.plist")));
             QVERIFY(batteryFile.open(QIODevice::WriteOnly));
-            batteryFile.write(battery);
+            batteryFile.write(plist(row[u"batteryPlist"].toString().toUtf8().constData()));
         }
         QString error;
         QVERIFY(!loadRecording(folder.path(), &error));
-        QVERIFY2(error.contains(message), qPrintable(error));
+        QVERIFY2(error.contains(row[u"message"].toString()), qPrintable(error));
         QVERIFY2(error.startsWith(folder.path()), "the message names the file");
     }
 
