@@ -204,7 +204,6 @@ private slots:
         QTest::newRow("missing recording is named") << QStringList{QStringLiteral("--source"), QStringLiteral("recorded:/nonexistent"), QStringLiteral("--once")}
                                           << 1 << QStringLiteral("ferrow-cli: /nonexistent: no such recording folder");
         QTest::newRow("unknown source") << QStringList{QStringLiteral("--source"), QStringLiteral("mac")} << 2 << QStringLiteral("unknown source 'mac'");
-        QTest::newRow("help") << QStringList{QStringLiteral("--help")} << 0 << QStringLiteral("--source <source>");
     }
 
     void commandLineReader()
