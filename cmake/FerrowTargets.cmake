@@ -5,7 +5,10 @@ target_compile_options(ferrow_build_settings INTERFACE
     $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Wall -Wextra -Wpedantic>
     $<$<AND:$<BOOL:${FERROW_WARNINGS_AS_ERRORS}>,$<CXX_COMPILER_ID:GNU,Clang,AppleClang>>:-Werror>)
 target_compile_definitions(ferrow_build_settings INTERFACE
-    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+    # Debug builds (the sanitized suite among them) check the standard library's preconditions:
+    # reading an empty optional or indexing past the end aborts instead of reading garbage.
+    $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
 if(FERROW_SANITIZE)
     set(_ferrow_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined
