@@ -144,8 +144,6 @@ private slots:
         QTest::newRow("Russian one") << QLocale(QLocale::Russian) << QByteArray("count.times") << 21 << QStringLiteral("21 раз");
         QTest::newRow("Russian few") << QLocale(QLocale::Russian) << QByteArray("count.times") << 3 << QStringLiteral("3 раза");
         QTest::newRow("Russian many") << QLocale(QLocale::Russian) << QByteArray("count.times") << 12 << QStringLiteral("12 раз");
-        QTest::newRow("Spanish one") << QLocale(QLocale::Spanish) << QByteArray("count.times") << 1 << QStringLiteral("1 vez");
-        QTest::newRow("Spanish other") << QLocale(QLocale::Spanish) << QByteArray("count.times") << 2 << QStringLiteral("2 veces");
     }
 
     void installedTablesFollowTheLocale()

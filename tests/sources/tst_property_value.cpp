@@ -48,11 +48,17 @@ private slots:
         QTest::newRow("negative real") << PropertyValue(-3.7) << QStringLiteral("int=-3 bool=true string=- dict=- list=-");
         QTest::newRow("real 2^63 keeps the bit pattern")
             << PropertyValue(9223372036854775808.0) << QStringLiteral("int=-9223372036854775808 bool=true string=- dict=- list=-");
+        QTest::newRow("real -2^63") << PropertyValue(-9223372036854775808.0) << QStringLiteral("int=-9223372036854775808 bool=true string=- dict=- list=-");
+        QTest::newRow("real 2^64 is beyond") << PropertyValue(18446744073709551616.0) << QStringLiteral("int=- bool=true string=- dict=- list=-");
+        QTest::newRow("real zero") << PropertyValue(0.0) << QStringLiteral("int=0 bool=false string=- dict=- list=-");
+        QTest::newRow("unsigned zero") << PropertyValue(std::uint64_t(0)) << QStringLiteral("int=0 bool=false string=- dict=- list=-");
         QTest::newRow("real beyond 64 bits") << PropertyValue(1e30) << QStringLiteral("int=- bool=true string=- dict=- list=-");
         QTest::newRow("NaN") << PropertyValue(std::numeric_limits<double>::quiet_NaN())
                              << QStringLiteral("int=- bool=true string=- dict=- list=-");
         QTest::newRow("number 2 is true") << PropertyValue(2) << QStringLiteral("int=2 bool=true string=- dict=- list=-");
         QTest::newRow("boolean") << PropertyValue(true) << QStringLiteral("int=1 bool=true string=- dict=- list=-");
+        QTest::newRow("false") << PropertyValue(false) << QStringLiteral("int=0 bool=false string=- dict=- list=-");
+        QTest::newRow("booleans in a list") << PropertyValue(PropertyList{true, false}) << QStringLiteral("int=- bool=- string=- dict=- list=[1,0]");
         QTest::newRow("string is not a number") << PropertyValue(QStringLiteral("42"))
                                                 << QStringLiteral("int=- bool=- string=42 dict=- list=-");
         QTest::newRow("data") << PropertyValue(QByteArray("\x01\x02", 2)) << QStringLiteral("int=- bool=- string=- dict=- list=-");

@@ -190,7 +190,6 @@ private slots:
             return ferrow::maskedSerial(s);
         };
         const QString dash = QStringLiteral("\u2014");
-        QTest::newRow("serial of ten") << serial(true, QStringLiteral("ABCDEFGHIJ")) << QStringLiteral("ABCD\u2022\u2022\u2022\u2022GHIJ");
         QTest::newRow("serial of nine") << serial(true, QStringLiteral("ABCDEFGHI")) << QStringLiteral("ABCD\u2022\u2022\u2022\u2022FGHI");
         QTest::newRow("serial of eight") << serial(true, QStringLiteral("ABCDEFGH")) << QString(8, QChar(0x2022));
         QTest::newRow("serial of three") << serial(true, QStringLiteral("ABC")) << QString(3, QChar(0x2022));
