@@ -9,6 +9,7 @@
 #include <QTime>
 
 #include <cmath>
+#include <set>
 
 using namespace ferrow;
 using namespace std::chrono_literals;
@@ -162,6 +163,7 @@ private slots:
         QTest::addColumn<int>("section");
         QTest::newRow("battery at 60, power at -300") << QList<double>{-700, -300, 60, 500, 900} << int(MainSection::power);
         QTest::newRow("battery at 52 exactly") << QList<double>{-700, -300, 52, 500, 900} << int(MainSection::battery);
+        QTest::newRow("battery at 52.5: not yet") << QList<double>{-700, -300, 52.5, 500, 900} << int(MainSection::power);
         QTest::newRow("at the top") << QList<double>{24, 200, 700, 1100, 1500} << int(MainSection::overview);
         QTest::newRow("none reached: the nearest") << QList<double>{80, 400, 700, 1100, 1500} << int(MainSection::overview);
         QTest::newRow("scrolled to the end") << QList<double>{-2000, -1600, -900, -400, 24} << int(MainSection::history);
@@ -172,8 +174,12 @@ private slots:
         QFETCH(QList<double>, offsets);
         QFETCH(int, section);
         std::map<MainSection, double> tops;
-        for (std::size_t i = 0; i < kMainSections.size(); ++i)
+        std::set<QByteArray> titles;
+        for (std::size_t i = 0; i < kMainSections.size(); ++i) {
             tops[kMainSections[i]] = offsets[static_cast<qsizetype>(i)];
+            titles.insert(sectionTitleKey(kMainSections[i]));
+        }
+        QCOMPARE(titles.size(), kMainSections.size()); // each section has a title of its own
         QCOMPARE(int(*sectionFollowingScroll(tops)), section);
         QCOMPARE(sectionFollowingScroll({}), std::nullopt);
     }
