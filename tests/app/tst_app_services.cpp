@@ -22,7 +22,6 @@ private slots:
         QTest::newRow("empty short version, build 42") << QVariant(QString()) << QVariant(QStringLiteral("42")) << QStringLiteral("42");
         QTest::newRow("empty build counts") << QVariant() << QVariant(QString()) << QString();
         QTest::newRow("neither") << QVariant() << QVariant() << QStringLiteral("\u2014");
-        QTest::newRow("empty short version only") << QVariant(QString()) << QVariant() << QStringLiteral("\u2014");
     }
 
     void versionString()

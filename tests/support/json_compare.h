@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -15,21 +17,12 @@ inline bool jsonMatches(const QJsonValue &actual, const QJsonValue &expected)
         return qAbs(actual.toDouble() - expected.toDouble()) < 1e-5;
     if (expected.isArray() && actual.isArray()) {
         const QJsonArray a = actual.toArray(), e = expected.toArray();
-        if (a.size() != e.size())
-            return false;
-        for (qsizetype i = 0; i < a.size(); ++i) {
-            if (!jsonMatches(a[i], e[i]))
-                return false;
-        }
-        return true;
+        return a.size() == e.size() && std::equal(a.begin(), a.end(), e.begin(), jsonMatches);
     }
     if (expected.isObject() && actual.isObject()) {
         const QJsonObject a = actual.toObject(), e = expected.toObject();
-        for (auto member = e.begin(); member != e.end(); ++member) {
-            if (!jsonMatches(a.value(member.key()), member.value()))
-                return false;
-        }
-        return true;
+        const QStringList names = e.keys();
+        return std::all_of(names.begin(), names.end(), [&](const QString &name) { return jsonMatches(a.value(name), e.value(name)); });
     }
     return actual == expected;
 }
