@@ -265,6 +265,8 @@ private slots:
                                   << QStringLiteral("overview.power_distribution_subtitle") << QStringLiteral("+18.2 W") << withBattery;
         QTest::newRow("connected, idle") << true << true << false << 0.04 << QStringLiteral("status.power_connected")
                                          << QStringLiteral("overview.power_distribution_subtitle") << QStringLiteral("0.0 W") << withBattery;
+        QTest::newRow("connected, 0.05 W counts") << true << true << false << 0.05 << QStringLiteral("status.power_connected")
+                                                  << QStringLiteral("overview.power_distribution_subtitle") << QStringLiteral("+0.1 W") << withBattery;
         QTest::newRow("on battery") << true << false << false << -7.5 << QStringLiteral("status.on_battery")
                                     << QStringLiteral("overview.battery_subtitle") << QStringLiteral("-7.5 W") << withBattery;
     }
