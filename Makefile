@@ -10,7 +10,9 @@ CMAKE_FLAGS  := -G Ninja -DFERROW_WARNINGS_AS_ERRORS=ON
 ifeq ($(shell uname -s),Darwin)
 # Homebrew links its Qt formulae (qtbase, qtcharts, qttools) into its own prefix.
 CMAKE_FLAGS += -DCMAKE_PREFIX_PATH=$(shell brew --prefix 2>/dev/null)
-RUN          := open $(BUILD_DIR)/src/app/Ferrow.app
+# `open` would only bring forward a copy that is already running: quit it, then start this build.
+RUN          := osascript -e 'quit app id "app.ferrow.Ferrow"' >/dev/null 2>&1 || true; \
+                open -n $(BUILD_DIR)/src/app/Ferrow.app
 else
 RUN          := $(BUILD_DIR)/src/app/ferrow
 endif

@@ -167,6 +167,14 @@
         <source>%1% · %2</source>
         <translation>%1 % · %2</translation>
     </message>
+    <message id="setting.login_awaiting_approval">
+        <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
+        <translation>Permite Ferrow en Ajustes del Sistema › Ítems de inicio para abrirlo al iniciar sesión</translation>
+    </message>
+    <message id="setting.login_needs_applications">
+        <source>Move Ferrow to Applications to start it at login</source>
+        <translation>Mueve Ferrow a Aplicaciones para abrirlo al iniciar sesión</translation>
+    </message>
     <message id="setting.launch_at_login">
         <source>Launch at login</source>
         <translation>Abrir al iniciar sesión</translation>

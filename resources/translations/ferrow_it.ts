@@ -167,6 +167,14 @@
         <source>%1% · %2</source>
         <translation>%1% · %2</translation>
     </message>
+    <message id="setting.login_awaiting_approval">
+        <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
+        <translation>Consenti Ferrow in Impostazioni di Sistema › Elementi login per aprirlo al login</translation>
+    </message>
+    <message id="setting.login_needs_applications">
+        <source>Move Ferrow to Applications to start it at login</source>
+        <translation>Sposta Ferrow in Applicazioni per aprirlo al login</translation>
+    </message>
     <message id="setting.launch_at_login">
         <source>Launch at login</source>
         <translation>Apri al login</translation>

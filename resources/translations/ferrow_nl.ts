@@ -167,6 +167,14 @@
         <source>%1% · %2</source>
         <translation>%1% · %2</translation>
     </message>
+    <message id="setting.login_awaiting_approval">
+        <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
+        <translation>Sta Ferrow toe in Systeeminstellingen › Inloguitvoer om het bij inloggen te starten</translation>
+    </message>
+    <message id="setting.login_needs_applications">
+        <source>Move Ferrow to Applications to start it at login</source>
+        <translation>Zet Ferrow in Apps om het bij inloggen te starten</translation>
+    </message>
     <message id="setting.launch_at_login">
         <source>Launch at login</source>
         <translation>Openen bij inloggen</translation>

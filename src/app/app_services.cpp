@@ -53,14 +53,30 @@ QString XdgAutostartLoginItem::entryPath() const
     return m_folder + QStringLiteral("/ferrow.desktop");
 }
 
-bool XdgAutostartLoginItem::isEnabled() const
+LoginItemPresentation loginItemPresentation(LoginItemState state)
+{
+    switch (state) {
+    case LoginItemState::enabled:
+        return {true, nullptr};
+    case LoginItemState::disabled:
+        break;
+    case LoginItemState::awaitingApproval:
+        return {true, "setting.login_awaiting_approval"}; // registered; the system starts it once approved
+    case LoginItemState::needsApplicationsFolder:
+        return {false, "setting.login_needs_applications"};
+    }
+    return {false, nullptr};
+}
+
+LoginItemState XdgAutostartLoginItem::state() const
 {
     QFile entry(entryPath());
     if (!entry.open(QIODevice::ReadOnly))
-        return false;
+        return LoginItemState::disabled;
     // An entry the user switched off in the desktop's settings does not count.
     const QByteArray text = entry.read(64 * 1024);
-    return !text.contains("Hidden=true") && !text.contains("X-GNOME-Autostart-enabled=false");
+    const bool switchedOff = text.contains("Hidden=true") || text.contains("X-GNOME-Autostart-enabled=false");
+    return switchedOff ? LoginItemState::disabled : LoginItemState::enabled;
 }
 
 bool XdgAutostartLoginItem::setEnabled(bool enabled)

@@ -17,6 +17,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QScreen>
+#include <QKeyEvent>
 #include <QStyleHints>
 #include <QVBoxLayout>
 
@@ -71,11 +72,15 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     layout->addWidget(m_dashboard);
     m_window->installEventFilter(this);
     m_window->setFixedSize(m_window->sizeHint());
+    if (m_menuBarItem) {
+        if (usePopoverMaterial(*m_window))
+            m_dashboard->setPaintsBackground(false);
+    }
 
     m_dashboard->setSubtitle(localizedText(machine.subtitleKey));
     m_dashboard->setVersion(applicationVersionText());
     m_dashboard->setShowPowerInMenuBar(m_showPower);
-    m_dashboard->setLaunchAtLogin(m_loginItem->isEnabled());
+    showLoginItemState();
     m_dashboard->setReduceMotion(reducesMotion(m_settings));
     connect(m_dashboard, &DashboardView::detailsRequested, this, &ApplicationShell::openMainWindow);
 
@@ -85,9 +90,10 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
         updateTrayItem();
     });
     connect(m_dashboard, &DashboardView::launchAtLoginToggled, this, [this](bool enabled) {
-        if (!m_loginItem->setEnabled(enabled))
-            m_dashboard->setLaunchAtLogin(m_loginItem->isEnabled());
+        m_loginItem->setEnabled(enabled);
+        showLoginItemState(); // refused, or waiting for the user: the system's state, not the click
     });
+    connect(m_dashboard, &DashboardView::launchAtLoginNoteClicked, this, [this] { m_loginItem->openSettingsForState(); });
     connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, &ApplicationShell::showSnapshot);
     connect(m_monitor.get(), &PowerMonitor::powerHistoryChanged, this, [this] {
         if (m_mainWindow)
@@ -97,6 +103,10 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
 
     if (m_menuBarItem)
         connect(m_menuBarItem.get(), &MenuBarItem::activated, this, &ApplicationShell::togglePopover);
+    onApplicationReopen([this] {
+        if (!hasVisibleWindow())
+            openMainWindow();
+    });
 }
 
 ApplicationShell::~ApplicationShell() = default;
@@ -145,6 +155,18 @@ MainWindowView *ApplicationShell::openMainWindow()
     return m_mainWindow.get();
 }
 
+void ApplicationShell::showLoginItemState()
+{
+    const LoginItemPresentation shown = loginItemPresentation(m_loginItem->state());
+    m_dashboard->setLaunchAtLogin(shown.switchOn);
+    m_dashboard->setLaunchAtLoginNote(shown.noteKey ? localizedText(shown.noteKey) : QString());
+}
+
+bool ApplicationShell::hasVisibleWindow() const
+{
+    return m_window->isVisible() || (m_mainWindow && m_mainWindow->isVisible());
+}
+
 void ApplicationShell::applyAppearance()
 {
     const FerrowPalette palette = currentPalette();
@@ -177,10 +199,18 @@ void ApplicationShell::updateTrayItem()
 
 void ApplicationShell::togglePopover()
 {
+    constexpr qint64 kClickAfterFocusLossMs = 300;
     if (m_window->isVisible()) {
         m_window->hide();
         return;
     }
+    if (m_sinceClosedByFocusLoss.isValid() && m_sinceClosedByFocusLoss.elapsed() < kClickAfterFocusLossMs) {
+        m_sinceClosedByFocusLoss.invalidate();
+        return;
+    }
+    showLoginItemState(); // approved or moved meanwhile
+    // An inactive application's window opens without focus and never learns that it lost it.
+    bringApplicationToFront();
     const QRect item = m_menuBarItem ? m_menuBarItem->geometry() : QRect();
     const QPoint cursor = QCursor::pos();
     QScreen *screen = QGuiApplication::screenAt(item.isValid() ? item.center() : cursor);
@@ -190,6 +220,7 @@ void ApplicationShell::togglePopover()
     m_window->show();
     m_window->raise();
     m_window->activateWindow();
+    m_dashboard->setFocus();
     m_monitor->start();
 }
 
@@ -199,8 +230,14 @@ bool ApplicationShell::eventFilter(QObject *watched, QEvent *event)
         && (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ThemeChange))
         applyAppearance();
     if (watched == m_window.get()) {
-        if (event->type() == QEvent::WindowDeactivate && m_menuBarItem)
+        if (event->type() == QEvent::KeyPress && m_menuBarItem && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+            m_window->hide();
+            return true;
+        }
+        if (event->type() == QEvent::WindowDeactivate && m_menuBarItem && m_window->isVisible()) {
             m_window->hide(); // a popover closes when it loses focus
+            m_sinceClosedByFocusLoss.start();
+        }
         else if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ThemeChange)
             applyAppearance();
     }

@@ -5,6 +5,7 @@
 #include "app/menu_bar_item.h"
 #include "views/ferrow_palette.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 #include <QSettings>
@@ -44,6 +45,8 @@ private:
     void showSnapshot();
     void updateTrayItem();
     void togglePopover();
+    void showLoginItemState();
+    bool hasVisibleWindow() const;
     void applyAppearance();
     FerrowPalette currentPalette() const;
 
@@ -58,6 +61,9 @@ private:
     DashboardView *m_dashboard = nullptr;
     std::unique_ptr<MainWindowView> m_mainWindow;
     std::unique_ptr<MenuBarItem> m_menuBarItem; // none: the dashboard is a window
+    // Since the popover last closed because it lost focus: a click on the item is what took
+    // the focus, and that click must not open it again.
+    QElapsedTimer m_sinceClosedByFocusLoss;
 };
 
 } // namespace ferrow

@@ -7,6 +7,7 @@
 #if defined(Q_OS_MACOS)
 #include "app/macos/mac_app_services.h"
 #include "app/macos/mac_status_item.h"
+#include "platform/macos/mac_system.h"
 #include "platform/macos/workspace_sleep_notifier.h"
 #elif defined(Q_OS_LINUX)
 #include "platform/linux/logind_sleep_notifier.h"
@@ -86,6 +87,35 @@ void bringApplicationToFront()
 {
 #if defined(Q_OS_MACOS)
     activateApplication();
+#endif
+}
+
+std::shared_ptr<const void> keepTimersOnPace()
+{
+#if defined(Q_OS_MACOS)
+    return std::make_shared<const ActivityAssertion>();
+#else
+    return nullptr;
+#endif
+}
+
+void onApplicationReopen(std::function<void()> handler)
+{
+#if defined(Q_OS_MACOS)
+    installReopenHandler(std::move(handler));
+#else
+    Q_UNUSED(handler);
+#endif
+}
+
+bool usePopoverMaterial(QWidget &window)
+{
+#if defined(Q_OS_MACOS)
+    putPopoverMaterialBehind(window);
+    return true;
+#else
+    Q_UNUSED(window);
+    return false;
 #endif
 }
 

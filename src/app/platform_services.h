@@ -6,8 +6,11 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
+
+class QWidget;
 
 namespace ferrow {
 
@@ -26,5 +29,14 @@ void prepareEnvironment();
 void prepareApplication();
 // Brings the application to the front, even while another application is active.
 void bringApplicationToFront();
+// Keeps the once-a-second timer on its pace for as long as the result lives: macOS naps an app
+// with no window in front and stretches its timers. Nothing to hold elsewhere.
+std::shared_ptr<const void> keepTimersOnPace();
+// Calls handler when the user opens the running application again (its Dock icon), where the
+// platform has such a gesture.
+void onApplicationReopen(std::function<void()> handler);
+// Puts the platform's popover material behind window, where it has one; false elsewhere, and
+// then the window paints its own background.
+bool usePopoverMaterial(QWidget &window);
 
 } // namespace ferrow

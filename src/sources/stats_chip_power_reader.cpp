@@ -26,11 +26,13 @@ QString StatsChipPowerReader::domainOfChannel(const QString &name)
 
 std::optional<double> StatsChipPowerReader::unitDivisor(const QString &unitLabel)
 {
-    if (unitLabel == u"mJ")
+    // Some systems pad the label, and some spell micro with the micro sign.
+    const QString unit = unitLabel.trimmed();
+    if (unit == u"mJ")
         return 1e3;
-    if (unitLabel == u"uJ")
+    if (unit == u"uJ" || unit == u"\u00B5J")
         return 1e6;
-    if (unitLabel == u"nJ")
+    if (unit == u"nJ")
         return 1e9;
     return std::nullopt;
 }

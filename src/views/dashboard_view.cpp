@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace ferrow {
@@ -211,6 +212,14 @@ DashboardView::DashboardView(QWidget *parent)
     m_showPower->setObjectName(QStringLiteral("showPowerInMenuBar"));
     m_version = new QLabel;
     m_version->setObjectName(QStringLiteral("version"));
+    m_launchAtLoginNote = new QPushButton;
+    m_launchAtLoginNote->setObjectName(QStringLiteral("launchAtLoginNote"));
+    m_launchAtLoginNote->setFlat(true);
+    m_launchAtLoginNote->setCursor(Qt::PointingHandCursor);
+    m_launchAtLoginNote->setStyleSheet(QStringLiteral("QPushButton { border: none; padding: 0 8px; text-align: left; }"));
+    m_launchAtLoginNote->setFixedHeight(16);
+    m_launchAtLoginNote->hide();
+    connect(m_launchAtLoginNote, &QPushButton::clicked, this, &DashboardView::launchAtLoginNoteClicked);
     connect(m_launchAtLogin, &QCheckBox::toggled, this, &DashboardView::launchAtLoginToggled);
     connect(m_showPower, &QCheckBox::toggled, this, &DashboardView::showPowerInMenuBarToggled);
     auto *settings = new QWidget;
@@ -238,6 +247,7 @@ DashboardView::DashboardView(QWidget *parent)
     column->addWidget(padded(m_telemetry, 8, 0, 8, 5));
     column->addWidget(padded(details, 8, 6, 8, 0));
     column->addWidget(settings);
+    column->addWidget(m_launchAtLoginNote);
     auto *footer = new QWidget;
     auto *footerColumn = new QVBoxLayout(footer);
     footerColumn->setContentsMargins(10, 6, 10, 0);
@@ -284,6 +294,10 @@ void DashboardView::applyPaletteToControls()
         box->setPalette(controls);
         box->setFont(uiFont(9));
     }
+    QPalette notePalette = controls;
+    notePalette.setColor(QPalette::ButtonText, m_palette.accent());
+    m_launchAtLoginNote->setPalette(notePalette);
+    m_launchAtLoginNote->setFont(uiFont(9));
     QPalette versionPalette = controls;
     versionPalette.setColor(QPalette::WindowText, m_palette.tertiaryText());
     m_version->setPalette(versionPalette);
@@ -308,6 +322,18 @@ void DashboardView::setLaunchAtLogin(bool enabled)
     m_launchAtLogin->setChecked(enabled);
 }
 
+void DashboardView::setLaunchAtLoginNote(const QString &note)
+{
+    m_launchAtLoginNote->setText(note);
+    m_launchAtLoginNote->setVisible(!note.isEmpty());
+}
+
+void DashboardView::setPaintsBackground(bool paints)
+{
+    m_paintsBackground = paints;
+    update();
+}
+
 void DashboardView::setShowPowerInMenuBar(bool shown)
 {
     const QSignalBlocker blocker(m_showPower);
@@ -322,6 +348,8 @@ void DashboardView::setReduceMotion(bool reduceMotion)
 
 void DashboardView::paintEvent(QPaintEvent *)
 {
+    if (!m_paintsBackground)
+        return;
     QPainter painter(this);
     painter.fillRect(rect(), m_palette.panelBackground());
 }

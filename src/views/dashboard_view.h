@@ -7,6 +7,7 @@
 
 class QCheckBox;
 class QLabel;
+class QPushButton;
 
 namespace ferrow {
 
@@ -31,6 +32,10 @@ public:
     void setSubtitle(const QString &subtitle);
     void setVersion(const QString &version);
     void setLaunchAtLogin(bool enabled);
+    // One line under the settings saying what the system needs from the user; empty hides it.
+    void setLaunchAtLoginNote(const QString &note);
+    // False where the window has the platform's own material behind it.
+    void setPaintsBackground(bool paints);
     void setShowPowerInMenuBar(bool shown);
     void setReduceMotion(bool reduceMotion);
     PowerFlowView *flowView() const { return m_flow; }
@@ -38,6 +43,7 @@ public:
 signals:
     void detailsRequested();
     void launchAtLoginToggled(bool enabled);
+    void launchAtLoginNoteClicked();
     void showPowerInMenuBarToggled(bool shown);
 
 protected:
@@ -57,6 +63,8 @@ private:
     BatteryStatusView *m_battery;
     SnapshotView *m_telemetry;
     QCheckBox *m_launchAtLogin;
+    QPushButton *m_launchAtLoginNote;
+    bool m_paintsBackground = true;
     QCheckBox *m_showPower;
     QLabel *m_version;
     OfficialWebsiteLink *m_website;

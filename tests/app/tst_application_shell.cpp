@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -16,30 +17,40 @@ using namespace ferrow;
 
 namespace {
 
-// A login-item service the test controls: it can refuse every change.
+int settingsOpened = 0;
+
+// A login-item service the test controls: it starts in a given state and can refuse every change.
 class FakeLoginItem final : public LoginItem {
 public:
-    explicit FakeLoginItem(bool refuses) : m_refuses(refuses) {}
-    bool isEnabled() const override { return m_enabled; }
+    FakeLoginItem(LoginItemState state, bool refuses) : m_state(state), m_refuses(refuses) {}
+    LoginItemState state() const override { return m_state; }
     bool setEnabled(bool enabled) override
     {
         if (m_refuses)
             return false;
-        m_enabled = enabled;
+        m_state = enabled ? LoginItemState::enabled : LoginItemState::disabled;
         return true;
     }
+    void openSettingsForState() override { ++settingsOpened; }
 
 private:
+    LoginItemState m_state;
     bool m_refuses;
-    bool m_enabled = false;
 };
 
-std::unique_ptr<ApplicationShell> makeShell(bool loginRefuses)
+class FakeMenuBarItem final : public MenuBarItem {
+public:
+    void showReading(const PowerSnapshot &, bool, const QString &) override {}
+    QRect geometry() const override { return {}; }
+};
+
+std::unique_ptr<ApplicationShell> makeShell(bool loginRefuses, LoginItemState loginState = LoginItemState::disabled,
+                                            std::unique_ptr<MenuBarItem> item = nullptr)
 {
     QString error;
     std::optional<OpenedMachine> machine = openMachine(*MachineSource::parse(QStringLiteral("simulated")), &error);
     return std::make_unique<ApplicationShell>(std::move(*machine), std::make_unique<SleepWakeNotifier>(),
-                                              std::make_unique<FakeLoginItem>(loginRefuses), nullptr);
+                                              std::make_unique<FakeLoginItem>(loginState, loginRefuses), std::move(item));
 }
 
 } // namespace
@@ -85,23 +96,67 @@ private slots:
         QSettings().remove(AppSetting::showPowerInMenuBar);
     }
 
-    void refusedLoginItemSnapsTheBoxBack_data()
+    void launchAtLoginShowsTheSystemsState_data()
     {
+        QTest::addColumn<LoginItemState>("state");
         QTest::addColumn<bool>("refuses");
+        QTest::addColumn<bool>("click");
         QTest::addColumn<bool>("checkedAfter");
-        QTest::newRow("accepted") << false << true;
-        QTest::newRow("refused") << true << false;
+        QTest::addColumn<QString>("noteAfter");
+        QTest::newRow("accepted") << LoginItemState::disabled << false << true << true << QString();
+        QTest::newRow("refused") << LoginItemState::disabled << true << true << false << QString();
+        QTest::newRow("awaiting approval") << LoginItemState::awaitingApproval << false << false << true
+                                           << QStringLiteral("setting.login_awaiting_approval");
+        QTest::newRow("refused outside Applications") << LoginItemState::needsApplicationsFolder << true << true << false
+                                                      << QStringLiteral("setting.login_needs_applications");
     }
 
-    void refusedLoginItemSnapsTheBoxBack()
+    void launchAtLoginShowsTheSystemsState()
     {
+        QFETCH(LoginItemState, state);
         QFETCH(bool, refuses);
+        QFETCH(bool, click);
         QFETCH(bool, checkedAfter);
-        auto shell = makeShell(refuses);
+        QFETCH(QString, noteAfter);
+        auto shell = makeShell(refuses, state);
         auto *box = shell->dashboard()->findChild<QCheckBox *>(QStringLiteral("launchAtLogin"));
-        QVERIFY(!box->isChecked());
-        box->click();
+        if (click)
+            box->click();
         QCOMPARE(box->isChecked(), checkedAfter);
+        auto *note = shell->dashboard()->findChild<QPushButton *>(QStringLiteral("launchAtLoginNote"));
+        QCOMPARE(note->isVisibleTo(shell->dashboard()), !noteAfter.isEmpty());
+        if (!noteAfter.isEmpty()) {
+            QCOMPARE(note->text(), qtTrId(noteAfter.toUtf8().constData()));
+            const int before = settingsOpened;
+            note->click();
+            QCOMPARE(settingsOpened, before + 1);
+        }
+    }
+
+    // Escape closes the popover; so does losing focus, and the click on the item that took the
+    // focus must not open it again, while a later click does.
+    void popoverClosesOnEscapeFocusLossAndASecondClick()
+    {
+        auto owned = std::make_unique<FakeMenuBarItem>();
+        FakeMenuBarItem *item = owned.get();
+        auto shell = makeShell(false, LoginItemState::disabled, std::move(owned));
+        QWidget *popover = shell->dashboardWindow();
+        emit item->activated();
+        QVERIFY(popover->isVisible());
+        QTest::keyClick(popover, Qt::Key_Escape);
+        QVERIFY(!popover->isVisible());
+
+        emit item->activated();
+        QVERIFY(popover->isVisible());
+        QEvent deactivate(QEvent::WindowDeactivate);
+        QCoreApplication::sendEvent(popover, &deactivate);
+        QVERIFY(!popover->isVisible());
+        emit item->activated();
+        QVERIFY(!popover->isVisible());
+        emit item->activated();
+        QVERIFY(popover->isVisible());
+        emit item->activated();
+        QVERIFY(!popover->isVisible());
     }
 };
 

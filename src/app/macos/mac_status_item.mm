@@ -34,6 +34,7 @@ MacStatusItem::MacStatusItem()
     m_native->item.button.target = m_native->target;
     m_native->item.button.action = @selector(clicked:);
     m_native->item.button.imagePosition = NSImageLeading;
+    m_native->item.button.font = [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightSemibold];
 }
 
 MacStatusItem::~MacStatusItem()
@@ -49,12 +50,9 @@ void MacStatusItem::showReading(const PowerSnapshot &snapshot, bool showPower, c
     NSImage *image = [NSImage imageWithSystemSymbolName:symbol accessibilityDescription:nil];
     [image setTemplate:YES]; // the menu bar recolours it for its appearance
     button.image = image;
-    if (showPower) {
-        NSDictionary *attributes = @{NSFontAttributeName : [NSFont monospacedSystemFontOfSize:12 weight:NSFontWeightSemibold]};
-        button.attributedTitle = [[NSAttributedString alloc] initWithString:menuBarFigureText(snapshot).toNSString() attributes:attributes];
-    } else {
-        button.title = @"";
-    }
+    // A plain title in the button's font: the system then colours it for the menu bar's
+    // appearance and dims it on an inactive display, as it does every status item.
+    button.title = showPower ? menuBarFigureText(snapshot).toNSString() : @"";
     button.toolTip = toolTip.toNSString();
 }
 

@@ -2,29 +2,39 @@
 
 namespace ferrow {
 
-SettingsKeyValueStore::SettingsKeyValueStore()
-    : m_settings(std::make_unique<QSettings>())
+SettingsKeyValueStore::SettingsKeyValueStore(const QString &fileName, QSettings::Format format)
+    : m_file(std::pair(fileName, format))
 {
 }
 
-SettingsKeyValueStore::SettingsKeyValueStore(const QString &fileName, QSettings::Format format)
-    : m_settings(std::make_unique<QSettings>(fileName, format))
+template <typename Use>
+auto SettingsKeyValueStore::withSettings(Use use) const
 {
+    if (m_file) {
+        QSettings settings(m_file->first, m_file->second);
+        return use(settings);
+    }
+    QSettings settings;
+    return use(settings);
 }
 
 std::optional<QByteArray> SettingsKeyValueStore::data(const QString &key) const
 {
-    const QVariant value = m_settings->value(key);
-    // Only binary data counts; a string or number someone else put there is not a record.
-    if (value.typeId() != QMetaType::QByteArray)
-        return std::nullopt;
-    return value.toByteArray();
+    return withSettings([&key](QSettings &settings) -> std::optional<QByteArray> {
+        const QVariant value = settings.value(key);
+        // Only binary data counts; a string or number someone else put there is not a record.
+        if (value.typeId() != QMetaType::QByteArray)
+            return std::nullopt;
+        return value.toByteArray();
+    });
 }
 
 void SettingsKeyValueStore::setData(const QString &key, const QByteArray &data)
 {
-    m_settings->setValue(key, data);
-    m_settings->sync();
+    withSettings([&](QSettings &settings) {
+        settings.setValue(key, data);
+        settings.sync();
+    });
 }
 
 } // namespace ferrow

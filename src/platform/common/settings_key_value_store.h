@@ -3,18 +3,22 @@
 #include "monitor/key_value_store.h"
 
 #include <QSettings>
+#include <QString>
 
-#include <memory>
+#include <optional>
+#include <utility>
 
 namespace ferrow {
 
 // Preferences in QSettings' native format: the user-defaults store on macOS, the desktop's usual
-// configuration file on Linux. Values are written through at once, since the writer is a worker
-// thread with no event loop to sync them later.
+// configuration file on Linux. This store is made on the main thread and used on the reading
+// worker, and a QSettings object belongs to the thread that uses it, so each call makes its own
+// (QSettings is reentrant; objects on several threads may share one file). Values are written
+// through at once, since the worker has no event loop to sync them later.
 class SettingsKeyValueStore final : public KeyValueStore {
 public:
     // The application's own preferences (organisation and application names must be set).
-    SettingsKeyValueStore();
+    SettingsKeyValueStore() = default;
     // A preferences file of its own, for tools and tests.
     SettingsKeyValueStore(const QString &fileName, QSettings::Format format);
 
@@ -22,7 +26,10 @@ public:
     void setData(const QString &key, const QByteArray &data) override;
 
 private:
-    std::unique_ptr<QSettings> m_settings;
+    template <typename Use>
+    auto withSettings(Use use) const;
+
+    std::optional<std::pair<QString, QSettings::Format>> m_file;
 };
 
 } // namespace ferrow

@@ -13,7 +13,8 @@ CFDictionaryRef IOReportCreateSamples(IOReportSubscriptionRef subscription, CFMu
 CFStringRef IOReportChannelGetGroup(CFDictionaryRef channel);
 CFStringRef IOReportChannelGetChannelName(CFDictionaryRef channel);
 CFStringRef IOReportChannelGetUnitLabel(CFDictionaryRef channel);
-int64_t IOReportSimpleGetIntegerValue(CFDictionaryRef channel, int32_t index);
+// The second parameter receives an error code where it is not null.
+int64_t IOReportSimpleGetIntegerValue(CFDictionaryRef channel, int32_t *error);
 }
 
 namespace ferrow {
@@ -61,7 +62,7 @@ std::optional<std::vector<EnergyChannelSample>> IOReportEnergySource::sample()
         if (!channel || CFGetTypeID(channel) != CFDictionaryGetTypeID())
             continue;
         channels.push_back({optionalString(IOReportChannelGetGroup(channel)), optionalString(IOReportChannelGetChannelName(channel)),
-                            optionalString(IOReportChannelGetUnitLabel(channel)), IOReportSimpleGetIntegerValue(channel, 0)});
+                            optionalString(IOReportChannelGetUnitLabel(channel)), IOReportSimpleGetIntegerValue(channel, nullptr)});
     }
     return channels;
 }

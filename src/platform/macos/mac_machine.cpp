@@ -2,10 +2,9 @@
 
 #include "platform/macos/iokit_smc_client.h"
 #include "platform/macos/ioreport_energy_source.h"
+#include "platform/macos/mac_system.h"
 
 #include <mach/mach_time.h>
-#include <sys/sysctl.h>
-
 
 namespace ferrow {
 
@@ -19,27 +18,16 @@ std::unique_ptr<EnergyReportSource> MacMachine::createEnergyReportSource()
     return std::make_unique<IOReportEnergySource>();
 }
 
-namespace {
-
-QString sysctlText(const char *name)
-{
-    char text[128] = {};
-    size_t size = sizeof text - 1;
-    if (sysctlbyname(name, text, &size, nullptr, 0) != 0)
-        return {};
-    return QString::fromUtf8(text);
-}
-
-} // namespace
-
 int MacMachine::operatingSystemMajorVersion() const
 {
-    return sysctlText("kern.osproductversion").section(u'.', 0, 0).toInt(); // "26.1" reads as 26
+    const std::optional<ProductVersion> version = runningMacOSVersion();
+    return version ? version->major : 0;
 }
 
 QString MacMachine::modelAndSystem()
 {
-    return QStringLiteral("%1, macOS %2").arg(sysctlText("hw.model"), sysctlText("kern.osproductversion"));
+    const std::optional<ProductVersion> version = runningMacOSVersion();
+    return QStringLiteral("%1, macOS %2").arg(macModelIdentifier(), version ? version->text() : reportedMacOSVersion());
 }
 
 double MacMachine::uptimeSeconds() const
