@@ -1,4 +1,6 @@
+#include "app/app_settings.h"
 #include "app/machine_source.h"
+#include "app/platform_services.h"
 #include "app/terminal_view.h"
 #include "app/text_table.h"
 #include "model/snapshot_json.h"
@@ -17,7 +19,7 @@ using namespace ferrow;
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("ferrow-cli"));
+    setApplicationIdentity(); // the application's own preferences, and so the same battery extremes
     installTextTable(application);
 
     QCommandLineParser parser;
@@ -32,7 +34,11 @@ int main(int argc, char *argv[])
     const QCommandLineOption recordOption(QStringLiteral("record"),
                                           QStringLiteral("Copy the files a reading of this machine uses into FOLDER (new or empty), to read back with --source sysfs:FOLDER."),
                                           QStringLiteral("FOLDER"));
-    parser.addOptions({sourceOption, onceOption, watchOption, jsonOption, recordOption});
+    const QCommandLineOption diagnoseOption(
+        QStringLiteral("diagnose"),
+        QStringLiteral("Say, source by source, what the machine answers and why a figure is absent (with --json as JSON). "
+                       "Serial numbers appear only hashed; attach the output to a bug report."));
+    parser.addOptions({sourceOption, onceOption, watchOption, jsonOption, recordOption, diagnoseOption});
     const QCommandLineOption serveOption(
         QStringLiteral("serve"),
         QStringLiteral("Serve the latest reading as Prometheus metrics at http://ADDRESS:PORT/metrics until interrupted. ADDRESS:PORT, "
@@ -47,6 +53,26 @@ int main(int argc, char *argv[])
         && (parser.isSet(onceOption) || parser.isSet(watchOption) || parser.isSet(jsonOption) || parser.isSet(recordOption))) {
         err << "ferrow-cli: --serve takes no --once, --watch, --json or --record\n";
         return 2;
+    }
+    if (parser.isSet(diagnoseOption)) {
+        if (parser.isSet(onceOption) || parser.isSet(watchOption) || parser.isSet(recordOption) || parser.isSet(serveOption)) {
+            err << "ferrow-cli: --diagnose takes only --source and --json\n";
+            return 2;
+        }
+        const std::optional<MachineSource> source = MachineSource::parse(parser.value(sourceOption));
+        if (!source) {
+            err << "ferrow-cli: unknown source '" << parser.value(sourceOption) << "' (see --help)\n";
+            return 2;
+        }
+        QString error;
+        const std::optional<Diagnosis> diagnosis = diagnoseMachine(*source, &error);
+        if (!diagnosis) {
+            err << "ferrow-cli: " << error << '\n';
+            return 1;
+        }
+        QTextStream(stdout) << (parser.isSet(jsonOption) ? QString::fromUtf8(QJsonDocument(diagnosisJson(*diagnosis)).toJson())
+                                                         : diagnosisText(*diagnosis));
+        return 0;
     }
     if (parser.isSet(recordOption)) {
         if (parser.isSet(sourceOption) || parser.isSet(onceOption) || parser.isSet(watchOption) || parser.isSet(jsonOption)) {
@@ -89,6 +115,7 @@ int main(int argc, char *argv[])
     if (source->kind == MachineSource::Kind::automatic && machine->isSimulated
         && (parser.isSet(onceOption) || parser.isSet(jsonOption) || parser.isSet(serveOption)))
         err << "ferrow-cli: reading the " << machine->description << Qt::endl;
+    const std::shared_ptr<const void> onPace = keepTimersOnPace(); // --watch and --serve read once a second
     if (parser.isSet(serveOption))
         return serveMetrics(std::make_unique<PowerSensorReader>(std::move(machine->platform)), parser.value(serveOption),
                             machine->description);

@@ -1,6 +1,15 @@
 #include "app/app_settings.h"
 
+#include <QCoreApplication>
+
 namespace ferrow {
+
+void setApplicationIdentity()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Ferrow"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Ferrow"));
+    QCoreApplication::setOrganizationDomain(QStringLiteral("ferrow.app"));
+}
 
 bool readBoolSetting(const QSettings &settings, const QString &key, bool defaultValue)
 {

@@ -15,4 +15,9 @@ inline const QString appearance = QStringLiteral("appearance");                 
 
 bool readBoolSetting(const QSettings &settings, const QString &key, bool defaultValue);
 
+// The names preferences are stored under (the defaults domain app.ferrow.Ferrow on macOS,
+// ~/.config/Ferrow/Ferrow.conf on Linux): the application and ferrow-cli share them, so both
+// keep a battery's lifetime extremes in one place.
+void setApplicationIdentity();
+
 } // namespace ferrow

@@ -2,6 +2,9 @@
 
 #include "platform/recorded/recorded_machine.h"
 #include "platform/simulated/simulated_machine.h"
+#include "sources/mac_source_diagnosis.h"
+
+#include <QSettings>
 
 #if defined(Q_OS_MACOS)
 #include "platform/macos/mac_machine.h"
@@ -11,6 +14,7 @@
 #elif defined(Q_OS_LINUX)
 #include "platform/common/in_memory_key_value_store.h"
 #include "platform/common/settings_key_value_store.h"
+#include "platform/linux/linux_diagnosis.h"
 #include "platform/linux/linux_machine.h"
 
 #include <QFile>
@@ -101,6 +105,61 @@ std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *e
     const QString description = recording->description.isEmpty() ? source.recordingPath : recording->description;
     return OpenedMachine{std::make_unique<RecordedMachine>(std::move(*recording)), QStringLiteral("recording of ") + description, false,
                          false};
+}
+
+namespace {
+
+// What is read, and for this machine where its battery's lifetime extremes are kept (a copy,
+// a recording or a simulation keeps them in memory only).
+DiagnosisSection programSection(const QString &reads, bool thisMachine)
+{
+    DiagnosisSection section{QStringLiteral("Ferrow"), {}};
+    section.add(QStringLiteral("reads"), reads);
+    if (thisMachine)
+        section.add(QStringLiteral("preferences"), QSettings().fileName());
+    return section;
+}
+
+Diagnosis joined(DiagnosisSection first, Diagnosis rest)
+{
+    rest.insert(rest.begin(), std::move(first));
+    return rest;
+}
+
+} // namespace
+
+std::optional<Diagnosis> diagnoseMachine(const MachineSource &source, QString *error)
+{
+#if defined(Q_OS_MACOS)
+    if (source.kind == MachineSource::Kind::automatic) {
+        MacMachine machine;
+        return joined(programSection(QStringLiteral("this Mac"), true), machine.diagnose());
+    }
+#elif defined(Q_OS_LINUX)
+    if (source.kind == MachineSource::Kind::automatic || source.kind == MachineSource::Kind::sysfsTree) {
+        const bool thisMachine = source.kind == MachineSource::Kind::automatic;
+        const QString root = thisMachine ? QStringLiteral("/") : source.recordingPath;
+        if (!thisMachine && !QFile::exists(root + QStringLiteral("/sys/class"))) {
+            if (error)
+                *error = QStringLiteral("%1: no sys/class folder in it, so not a copied tree").arg(root);
+            return std::nullopt;
+        }
+        DiagnosisSection program = programSection(thisMachine ? QStringLiteral("this Linux machine") : QStringLiteral("copied tree at ") + root, thisMachine);
+        if (thisMachine) {
+            QFile release(QStringLiteral("/proc/sys/kernel/osrelease"));
+            if (release.open(QIODevice::ReadOnly))
+                program.add(QStringLiteral("kernel"), QString::fromUtf8(release.readAll().trimmed()));
+            else
+                program.absent(QStringLiteral("kernel"), QStringLiteral("unreadable"));
+        }
+        SysfsFiles files(QFile::encodeName(root).toStdString());
+        return joined(std::move(program), diagnoseLinuxTree(files));
+    }
+#endif
+    std::optional<OpenedMachine> machine = openMachine(source, error);
+    if (!machine)
+        return std::nullopt;
+    return joined(programSection(machine->description, false), diagnoseMacSources(*machine->platform));
 }
 
 bool recordMachine(const QString &folder, QString *error)

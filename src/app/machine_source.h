@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/diagnosis.h"
 #include "sources/platform_interfaces.h"
 
 #include <QString>
@@ -32,6 +33,10 @@ struct OpenedMachine {
 
 // Opens the machine, or explains in one line why it could not be opened.
 std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *error);
+
+// What the source answers to every question a reading asks, and why a figure is absent: for a
+// user to send us. Absent, with the reason in error, when the source cannot be opened.
+std::optional<Diagnosis> diagnoseMachine(const MachineSource &source, QString *error);
 
 // Records this machine into folder, for reading back as a source (on Linux, the files a reading
 // uses, as sysfs:FOLDER). False, with the reason in error, where that cannot be done.

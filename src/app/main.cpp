@@ -1,4 +1,5 @@
 #include "app/app_services.h"
+#include "app/app_settings.h"
 #include "app/application_shell.h"
 #include "app/machine_source.h"
 #include "app/platform_services.h"
@@ -26,9 +27,7 @@ bool hasDisplay()
 
 void nameApplication()
 {
-    QCoreApplication::setApplicationName(QStringLiteral("Ferrow"));
-    QCoreApplication::setOrganizationName(QStringLiteral("Ferrow"));
-    QCoreApplication::setOrganizationDomain(QStringLiteral("ferrow.app")); // defaults domain app.ferrow.Ferrow on macOS
+    setApplicationIdentity();
     QCoreApplication::setApplicationVersion(QStringLiteral(FERROW_VERSION));
 }
 

@@ -1,5 +1,7 @@
 #include "sources/battery_health_sources.h"
 
+#include "sources/mac_names.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -10,7 +12,6 @@
 namespace ferrow {
 namespace {
 
-const QString kSystemProfiler = QStringLiteral("/usr/sbin/system_profiler");
 
 } // namespace
 
@@ -30,7 +31,7 @@ std::optional<std::int64_t> BatteryHealthSources::systemBatteryHealthPercent()
     m_lastReadAt = now; // before the attempt: a failure waits the full interval too
 
     const std::optional<CommandResult> result =
-        m_runner.run(kSystemProfiler, {QStringLiteral("-json"), QStringLiteral("SPPowerDataType")});
+        m_runner.run(MacNames::systemProfiler, MacNames::systemProfilerArguments);
     if (!result || result->exitStatus != 0)
         return m_cachedPercent;
     if (const std::optional<std::int64_t> percent = maximumCapacityPercentFromProfiler(result->standardOutput))

@@ -1,5 +1,7 @@
 #include "sources/power_sensor_reader.h"
 
+#include "sources/mac_names.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -8,7 +10,6 @@
 namespace ferrow {
 namespace {
 
-const QString kBatteryServiceClass = QStringLiteral("AppleSmartBattery");
 const std::string kPowerKeys[] = {"VD0R", "ID0R", "PSTR", "PDTR", "VP0R"};
 
 constexpr double kInputVoltageFloorV = 0.4;
@@ -148,7 +149,7 @@ PowerSnapshot PowerSensorReader::read()
     const std::optional<double> dcPowerW = inputVoltageV && inputCurrentA ? std::optional(s.dcVoltageV * s.dcCurrentA) : inputPowerW;
 
     // 4–6. Battery service, presence, system power.
-    const std::optional<PropertyDictionary> properties = m_platform->registry().registryProperties(kBatteryServiceClass);
+    const std::optional<PropertyDictionary> properties = m_platform->registry().registryProperties(MacNames::batteryService);
     const PropertyDictionary *props = properties ? &*properties : nullptr;
     s.hasBattery = props && propertyBoolean(at(props, "BatteryInstalled")).value_or(true);
     const std::optional<std::int64_t> systemLoadMW = integerAt(propertyDictionary(at(props, "PowerTelemetryData")), "SystemLoad");

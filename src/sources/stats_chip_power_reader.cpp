@@ -1,5 +1,7 @@
 #include "sources/stats_chip_power_reader.h"
 
+#include "sources/mac_names.h"
+
 #include <cmath>
 
 namespace ferrow {
@@ -47,7 +49,7 @@ ChipPower StatsChipPowerReader::sample()
 
     EnergyTable current;
     for (const EnergyChannelSample &channel : *channels) {
-        if (!channel.group || *channel.group != u"Energy Model" || !channel.name || !channel.unitLabel)
+        if (!channel.group || *channel.group != MacNames::energyModelGroup || !channel.name || !channel.unitLabel)
             continue;
         const QString domain = domainOfChannel(*channel.name);
         const std::optional<double> divisor = unitDivisor(*channel.unitLabel);

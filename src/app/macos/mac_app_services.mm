@@ -122,7 +122,7 @@ void installReopenHandler(std::function<void()> handler)
 void putPopoverMaterialBehind(QWidget &window)
 {
     window.setAttribute(Qt::WA_TranslucentBackground);
-    NSView *content = reinterpret_cast<NSView *>(window.winId());
+    NSView *content = (__bridge NSView *)reinterpret_cast<void *>(window.winId());
     NSWindow *nativeWindow = content.window;
     if (!nativeWindow || !content.superview)
         return;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
+#include <cstring>
 #include <string_view>
 
 #include <dirent.h>
@@ -65,6 +66,15 @@ std::optional<std::size_t> SysfsFiles::readRaw(const std::string &path, char *bu
     if (!m_copyRoot.empty())
         copy(path, buffer, size);
     return size;
+}
+
+std::string SysfsFiles::openError(const std::string &path) const
+{
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return std::strerror(errno);
+    ::close(descriptor);
+    return {};
 }
 
 std::optional<std::string> SysfsFiles::readText(const std::string &path)

@@ -24,6 +24,8 @@ public:
     // A whole decimal number making up the whole file; absent when unreadable, empty, not a number
     // or beyond 64 bits.
     std::optional<std::int64_t> readInteger(const std::string &path);
+    // Why the file cannot be read ("Permission denied"); empty when it can be opened.
+    std::string openError(const std::string &path) const;
     // The names in a folder, sorted; empty when it cannot be listed.
     std::vector<std::string> list(const std::string &folder) const;
 

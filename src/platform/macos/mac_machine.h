@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/diagnosis.h"
 #include "platform/common/process_command_runner.h"
 #include "platform/common/settings_key_value_store.h"
 #include "platform/macos/iokit_battery_sources.h"
@@ -22,6 +23,8 @@ public:
 
     // The model identifier and the system version, as "Mac15,6, macOS 26.1", for a recording.
     static QString modelAndSystem();
+    // The system's versions and the activity assertion, then what each source answers.
+    Diagnosis diagnose();
 
     int operatingSystemMajorVersion() const override;
     bool hasExternalPowerAdapterDetails() override { return m_powerSources.hasExternalPowerAdapterDetails(); }

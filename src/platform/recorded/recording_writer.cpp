@@ -2,6 +2,7 @@
 
 #include "monitor/battery_history_store.h"
 #include "platform/recorded/property_list_writer.h"
+#include "sources/mac_names.h"
 #include "sources/power_sensor_reader.h"
 #include "sources/stats_smc.h"
 
@@ -90,7 +91,7 @@ QJsonArray energyFrames(MachinePlatform &machine, const std::function<void()> &w
 QJsonValue systemProfiler(MachinePlatform &machine)
 {
     const std::optional<CommandResult> result =
-        machine.commandRunner().run(QStringLiteral("/usr/sbin/system_profiler"), {QStringLiteral("-json"), QStringLiteral("SPPowerDataType")});
+        machine.commandRunner().run(MacNames::systemProfiler, MacNames::systemProfilerArguments);
     if (!result)
         return QJsonValue::Undefined;
     const QJsonDocument document = QJsonDocument::fromJson(result->standardOutput);
@@ -133,7 +134,7 @@ bool writeRecording(MachinePlatform &machine, const QString &description, const 
         return false;
     }
     const QDir directory(folder);
-    const std::optional<PropertyDictionary> battery = machine.registry().registryProperties(QStringLiteral("AppleSmartBattery"));
+    const std::optional<PropertyDictionary> battery = machine.registry().registryProperties(MacNames::batteryService);
 
     QJsonObject root{
         {QStringLiteral("format"), QStringLiteral("ferrow-recording/1")},
