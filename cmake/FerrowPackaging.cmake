@@ -11,10 +11,16 @@ if(APPLE)
     install(TARGETS ferrow BUNDLE DESTINATION .)
     install(TARGETS ferrow-cli RUNTIME DESTINATION Ferrow.app/Contents/MacOS)
     find_program(MACDEPLOYQT macdeployqt HINTS "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_BINS}")
+    # The copied frameworks are built for the system of the machine that built them: the bundle
+    # declares the highest minimum among its files, and packaging fails on a load path that leaves
+    # the bundle for anything but the system (tools/check_bundle.py).
+    find_package(Python3 REQUIRED COMPONENTS Interpreter)
     if(MACDEPLOYQT)
         install(CODE "
             set(app \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/Ferrow.app\")
             execute_process(COMMAND \"${MACDEPLOYQT}\" \"\${app}\" \"-executable=\${app}/Contents/MacOS/ferrow-cli\"
+                            COMMAND_ERROR_IS_FATAL ANY)
+            execute_process(COMMAND \"${Python3_EXECUTABLE}\" \"${PROJECT_SOURCE_DIR}/tools/check_bundle.py\" --declare \"\${app}\"
                             COMMAND_ERROR_IS_FATAL ANY)
             execute_process(COMMAND codesign --force --deep --sign - --timestamp=none \"\${app}\"
                             COMMAND_ERROR_IS_FATAL ANY)")
