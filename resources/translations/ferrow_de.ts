@@ -169,11 +169,11 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>Ferrow unter Systemeinstellungen › Anmeldeobjekte erlauben, damit es beim Anmelden startet</translation>
+        <translation>In Systemeinstellungen › Anmeldeobjekte erlauben</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>
-        <translation>Ferrow in „Programme“ bewegen, damit es beim Anmelden starten kann</translation>
+        <translation>Zum Starten beim Anmelden in „Programme“ bewegen</translation>
     </message>
     <message id="setting.launch_at_login">
         <source>Launch at login</source>

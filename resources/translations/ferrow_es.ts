@@ -169,7 +169,7 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>Permite Ferrow en Ajustes del Sistema › Ítems de inicio para abrirlo al iniciar sesión</translation>
+        <translation>Permítelo en Ajustes del Sistema › Ítems de inicio</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>

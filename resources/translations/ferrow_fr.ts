@@ -169,11 +169,11 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>Autorisez Ferrow dans Réglages Système › Ouverture pour le lancer à la connexion</translation>
+        <translation>À autoriser dans Réglages Système › Ouverture</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>
-        <translation>Placez Ferrow dans Applications pour le lancer à la connexion</translation>
+        <translation>Placez Ferrow dans Applications pour l’ouvrir à la connexion</translation>
     </message>
     <message id="setting.launch_at_login">
         <source>Launch at login</source>

@@ -169,7 +169,7 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>Consenti Ferrow in Impostazioni di Sistema › Elementi login per aprirlo al login</translation>
+        <translation>Consenti Ferrow in Impostazioni di Sistema › Elementi login</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>

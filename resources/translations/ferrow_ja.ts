@@ -169,11 +169,11 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>ログイン時に開くには、システム設定 › ログイン項目で Ferrow を許可してください</translation>
+        <translation>システム設定 › ログイン項目で Ferrow を許可してください</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>
-        <translation>ログイン時に開くには、Ferrow をアプリケーションフォルダに移動してください</translation>
+        <translation>Ferrow をアプリケーションフォルダに移動してください</translation>
     </message>
     <message id="setting.launch_at_login">
         <source>Launch at login</source>

@@ -169,11 +169,11 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>로그인 시 열려면 시스템 설정 › 로그인 항목에서 Ferrow를 허용하세요</translation>
+        <translation>시스템 설정 › 로그인 항목에서 Ferrow를 허용하세요</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>
-        <translation>로그인 시 열려면 Ferrow를 응용 프로그램 폴더로 옮기세요</translation>
+        <translation>Ferrow를 응용 프로그램 폴더로 옮기세요</translation>
     </message>
     <message id="setting.launch_at_login">
         <source>Launch at login</source>

@@ -169,7 +169,7 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>Sta Ferrow toe in Systeeminstellingen › Inloguitvoer om het bij inloggen te starten</translation>
+        <translation>Sta Ferrow toe in Systeeminstellingen › Inloguitvoer</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>

@@ -169,11 +169,11 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>Zezwól na Ferrow w Ustawieniach systemowych › Rzeczy otwierane podczas logowania</translation>
+        <translation>Zezwól w Ustawieniach systemowych › Rzeczy otwierane</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>
-        <translation>Przenieś Ferrow do Aplikacji, aby uruchamiał się po zalogowaniu</translation>
+        <translation>Przenieś Ferrow do Aplikacji, by startował po zalogowaniu</translation>
     </message>
     <message id="setting.launch_at_login">
         <source>Launch at login</source>

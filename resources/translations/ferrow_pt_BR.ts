@@ -169,7 +169,7 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>Permita o Ferrow em Ajustes do Sistema › Itens de Início para abri-lo ao iniciar sessão</translation>
+        <translation>Permita o Ferrow em Ajustes do Sistema › Itens de Início</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>

@@ -169,11 +169,11 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>Разрешите Ferrow в Системных настройках › Объекты входа, чтобы он запускался при входе</translation>
+        <translation>Разрешите Ferrow в Настройках › Объекты входа</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>
-        <translation>Переместите Ferrow в «Программы», чтобы он запускался при входе</translation>
+        <translation>Переместите Ferrow в «Программы» для запуска при входе</translation>
     </message>
     <message id="setting.launch_at_login">
         <source>Launch at login</source>

@@ -169,11 +169,11 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>请在“系统设置 › 登录项”中允许 Ferrow，以便登录时启动</translation>
+        <translation>请在“系统设置 › 登录项”中允许 Ferrow</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>
-        <translation>请将 Ferrow 移到“应用程序”文件夹，以便登录时启动</translation>
+        <translation>请将 Ferrow 移到“应用程序”文件夹</translation>
     </message>
     <message id="setting.launch_at_login">
         <source>Launch at login</source>

@@ -169,11 +169,11 @@
     </message>
     <message id="setting.login_awaiting_approval">
         <source>Approve Ferrow in System Settings › Login Items to start it at login</source>
-        <translation>請在「系統設定 › 登入項目」中允許 Ferrow，以便登入時啟動</translation>
+        <translation>請在「系統設定 › 登入項目」中允許 Ferrow</translation>
     </message>
     <message id="setting.login_needs_applications">
         <source>Move Ferrow to Applications to start it at login</source>
-        <translation>請將 Ferrow 移到「應用程式」檔案夾，以便登入時啟動</translation>
+        <translation>請將 Ferrow 移到「應用程式」檔案夾</translation>
     </message>
     <message id="setting.launch_at_login">
         <source>Launch at login</source>

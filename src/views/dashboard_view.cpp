@@ -216,8 +216,6 @@ DashboardView::DashboardView(QWidget *parent)
     m_launchAtLoginNote->setObjectName(QStringLiteral("launchAtLoginNote"));
     m_launchAtLoginNote->setFlat(true);
     m_launchAtLoginNote->setCursor(Qt::PointingHandCursor);
-    m_launchAtLoginNote->setStyleSheet(QStringLiteral("QPushButton { border: none; padding: 0 8px; text-align: left; }"));
-    m_launchAtLoginNote->setFixedHeight(16);
     m_launchAtLoginNote->hide();
     connect(m_launchAtLoginNote, &QPushButton::clicked, this, &DashboardView::launchAtLoginNoteClicked);
     connect(m_launchAtLogin, &QCheckBox::toggled, this, &DashboardView::launchAtLoginToggled);
@@ -234,6 +232,7 @@ DashboardView::DashboardView(QWidget *parent)
 
     m_website = new OfficialWebsiteLink;
     m_website->setObjectName(QStringLiteral("website"));
+    m_launchAtLoginNote->setFixedHeight(m_website->sizeHint().height());
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -247,13 +246,13 @@ DashboardView::DashboardView(QWidget *parent)
     column->addWidget(padded(m_telemetry, 8, 0, 8, 5));
     column->addWidget(padded(details, 8, 6, 8, 0));
     column->addWidget(settings);
-    column->addWidget(m_launchAtLoginNote);
     auto *footer = new QWidget;
     auto *footerColumn = new QVBoxLayout(footer);
     footerColumn->setContentsMargins(10, 6, 10, 0);
     footerColumn->setSpacing(0);
     footerColumn->addWidget(new Divider(&m_palette));
     footerColumn->addWidget(m_website);
+    footerColumn->addWidget(m_launchAtLoginNote); // in the website's place while it shows
     column->addWidget(footer);
     column->addStretch();
 
@@ -294,9 +293,9 @@ void DashboardView::applyPaletteToControls()
         box->setPalette(controls);
         box->setFont(uiFont(9));
     }
-    QPalette notePalette = controls;
-    notePalette.setColor(QPalette::ButtonText, m_palette.accent());
-    m_launchAtLoginNote->setPalette(notePalette);
+    // A link-like line: no frame, the accent colour.
+    m_launchAtLoginNote->setStyleSheet(QStringLiteral("QPushButton { border: none; padding: 0; text-align: center; color: %1; }")
+                                           .arg(m_palette.accent().name()));
     m_launchAtLoginNote->setFont(uiFont(9));
     QPalette versionPalette = controls;
     versionPalette.setColor(QPalette::WindowText, m_palette.tertiaryText());
@@ -326,6 +325,7 @@ void DashboardView::setLaunchAtLoginNote(const QString &note)
 {
     m_launchAtLoginNote->setText(note);
     m_launchAtLoginNote->setVisible(!note.isEmpty());
+    m_website->setVisible(note.isEmpty());
 }
 
 void DashboardView::setPaintsBackground(bool paints)

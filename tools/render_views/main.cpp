@@ -12,6 +12,7 @@
 #include "model/power_history.h"
 #include "platform/simulated/simulated_machine.h"
 #include "sources/power_sensor_reader.h"
+#include "model/localized_text.h"
 #include "views/dashboard_view.h"
 #include "views/main_window_view.h"
 
@@ -176,6 +177,25 @@ int main(int argc, char *argv[])
                 ++written;
             }
         }
+    }
+    {
+        // The launch-at-login line, as a Mac shows it while the system waits for the user's approval.
+        DashboardView dashboard;
+        dashboard.setFerrowPalette(FerrowPalette{ColorScheme::light});
+        dashboard.setSnapshot(snapshots.front());
+        dashboard.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+        dashboard.setShowPowerInMenuBar(true);
+        dashboard.setLaunchAtLogin(true);
+        dashboard.setLaunchAtLoginNote(localizedText("setting.login_awaiting_approval"));
+        dashboard.setReduceMotion(true);
+        dashboard.setAttribute(Qt::WA_DontShowOnScreen);
+        dashboard.show();
+        const QString path = output + QStringLiteral("/popover-login-approval-light.png");
+        if (!render(dashboard, 1.0, path)) {
+            err << "render_views: cannot write " << path << Qt::endl;
+            return 1;
+        }
+        ++written;
     }
     if (!renderTrayIcons(output, snapshots)) {
         err << "render_views: cannot write the tray icons to " << output << Qt::endl;
