@@ -32,6 +32,7 @@ public:
         return true;
     }
     void openSettingsForState() override { ++settingsOpened; }
+    void setState(LoginItemState state) { m_state = state; } // the user acted in System Settings
 
 private:
     LoginItemState m_state;
@@ -45,12 +46,15 @@ public:
 };
 
 std::unique_ptr<ApplicationShell> makeShell(bool loginRefuses, LoginItemState loginState = LoginItemState::disabled,
-                                            std::unique_ptr<MenuBarItem> item = nullptr)
+                                            std::unique_ptr<MenuBarItem> item = nullptr, FakeLoginItem **loginItem = nullptr)
 {
     QString error;
     std::optional<OpenedMachine> machine = openMachine(*MachineSource::parse(QStringLiteral("simulated")), &error);
-    return std::make_unique<ApplicationShell>(std::move(*machine), std::make_unique<SleepWakeNotifier>(),
-                                              std::make_unique<FakeLoginItem>(loginState, loginRefuses), std::move(item));
+    auto login = std::make_unique<FakeLoginItem>(loginState, loginRefuses);
+    if (loginItem)
+        *loginItem = login.get();
+    return std::make_unique<ApplicationShell>(std::move(*machine), std::make_unique<SleepWakeNotifier>(), std::move(login),
+                                              std::move(item));
 }
 
 } // namespace
@@ -134,15 +138,19 @@ private slots:
     }
 
     // Escape closes the popover; so does losing focus, and the click on the item that took the
-    // focus must not open it again, while a later click does.
+    // focus must not open it again, while a later click does. Each opening shows the login item
+    // as the system has it now.
     void popoverClosesOnEscapeFocusLossAndASecondClick()
     {
         auto owned = std::make_unique<FakeMenuBarItem>();
         FakeMenuBarItem *item = owned.get();
-        auto shell = makeShell(false, LoginItemState::disabled, std::move(owned));
+        FakeLoginItem *login = nullptr;
+        auto shell = makeShell(false, LoginItemState::disabled, std::move(owned), &login);
+        login->setState(LoginItemState::awaitingApproval);
         QWidget *popover = shell->dashboardWindow();
         emit item->activated();
         QVERIFY(popover->isVisible());
+        QVERIFY(shell->dashboard()->findChild<QCheckBox *>(QStringLiteral("launchAtLogin"))->isChecked());
         QTest::keyClick(popover, Qt::Key_Escape);
         QVERIFY(!popover->isVisible());
 
