@@ -54,14 +54,14 @@ int main(int argc, char *argv[])
         err << "ferrow-cli: --serve takes no --once, --watch, --json or --record\n";
         return 2;
     }
+    const std::optional<MachineSource> source = MachineSource::parse(parser.value(sourceOption));
+    if (!source) {
+        err << "ferrow-cli: unknown source '" << parser.value(sourceOption) << "' (see --help)\n";
+        return 2;
+    }
     if (parser.isSet(diagnoseOption)) {
         if (parser.isSet(onceOption) || parser.isSet(watchOption) || parser.isSet(recordOption) || parser.isSet(serveOption)) {
             err << "ferrow-cli: --diagnose takes only --source and --json\n";
-            return 2;
-        }
-        const std::optional<MachineSource> source = MachineSource::parse(parser.value(sourceOption));
-        if (!source) {
-            err << "ferrow-cli: unknown source '" << parser.value(sourceOption) << "' (see --help)\n";
             return 2;
         }
         QString error;
@@ -95,11 +95,6 @@ int main(int argc, char *argv[])
     }
     if (parser.isSet(onceOption) && parser.isSet(watchOption)) {
         err << "ferrow-cli: --once and --watch exclude each other\n";
-        return 2;
-    }
-    const std::optional<MachineSource> source = MachineSource::parse(parser.value(sourceOption));
-    if (!source) {
-        err << "ferrow-cli: unknown source '" << parser.value(sourceOption) << "' (see --help)\n";
         return 2;
     }
     QString error;

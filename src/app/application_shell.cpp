@@ -15,9 +15,9 @@
 #include <QApplication>
 #include <QCursor>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
-#include <QKeyEvent>
 #include <QStyleHints>
 #include <QVBoxLayout>
 
@@ -72,10 +72,8 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     layout->addWidget(m_dashboard);
     m_window->installEventFilter(this);
     m_window->setFixedSize(m_window->sizeHint());
-    if (m_menuBarItem) {
-        if (usePopoverMaterial(*m_window))
-            m_dashboard->setPaintsBackground(false);
-    }
+    m_hasPopoverMaterial = m_menuBarItem && usePopoverMaterial(*m_window);
+    m_dashboard->setPaintsBackground(!m_hasPopoverMaterial);
 
     m_dashboard->setSubtitle(localizedText(machine.subtitleKey));
     m_dashboard->setVersion(applicationVersionText());
@@ -177,7 +175,7 @@ void ApplicationShell::applyAppearance()
     windowPalette.setColor(QPalette::Window, palette.panelBackground());
     windowPalette.setColor(QPalette::WindowText, palette.secondaryText());
     m_window->setPalette(windowPalette);
-    m_window->setAutoFillBackground(true);
+    m_window->setAutoFillBackground(!m_hasPopoverMaterial);
 }
 
 void ApplicationShell::showSnapshot()
@@ -237,9 +235,9 @@ bool ApplicationShell::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::WindowDeactivate && m_menuBarItem && m_window->isVisible()) {
             m_window->hide(); // a popover closes when it loses focus
             m_sinceClosedByFocusLoss.start();
-        }
-        else if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ThemeChange)
+        } else if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ThemeChange) {
             applyAppearance();
+        }
     }
     return QObject::eventFilter(watched, event);
 }

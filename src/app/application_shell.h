@@ -64,6 +64,8 @@ private:
     // Since the popover last closed because it lost focus: a click on the item is what took
     // the focus, and that click must not open it again.
     QElapsedTimer m_sinceClosedByFocusLoss;
+    bool m_hasPopoverMaterial = false; // the platform's translucent material behind the popover
+
 };
 
 } // namespace ferrow
