@@ -2,8 +2,10 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -78,6 +80,22 @@ std::optional<std::uint64_t> unsignedCount(const QJsonValue &member)
     return std::nullopt;
 }
 
+// The count read from its digits where it is written as a plain integer, so that one near the
+// ceiling of 64 bits survives; other spellings (1e3, 5.0) as the JSON number they are.
+std::optional<std::uint64_t> storedCount(const QByteArray &json, const QJsonObject &object)
+{
+    static const QRegularExpression plainInteger(QStringLiteral(R"("sampleCount"\s*:\s*([0-9]+)\s*[,}])"));
+    const QRegularExpressionMatch match = plainInteger.match(QString::fromUtf8(json));
+    if (!match.hasMatch())
+        return unsignedCount(object.value(QLatin1StringView("sampleCount")));
+    const QByteArray digits = match.captured(1).toLatin1();
+    std::uint64_t count = 0;
+    const auto [end, error] = std::from_chars(digits.constData(), digits.constData() + digits.size(), count);
+    if (error != std::errc() || end != digits.constData() + digits.size())
+        return std::nullopt; // beyond 64 bits
+    return count;
+}
+
 } // namespace
 
 void BatteryElectricalHistory::record(std::optional<double> voltageV, std::optional<double> currentA)
@@ -134,12 +152,12 @@ std::optional<QByteArray> encodeRecord(const BatteryTemperatureHistory &record)
         || !putOptional(object, QLatin1StringView("minimumC"), record.minimumC)
         || !putOptional(object, QLatin1StringView("averageC"), record.averageC))
         return std::nullopt;
-    constexpr auto largestExactInteger = static_cast<std::uint64_t>(std::numeric_limits<qint64>::max());
-    if (record.sampleCount <= largestExactInteger)
-        object.insert(QLatin1StringView("sampleCount"), static_cast<qint64>(record.sampleCount));
-    else
-        object.insert(QLatin1StringView("sampleCount"), static_cast<double>(record.sampleCount));
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+    // The count as the integer it is: JSON numbers pass through doubles, exact only up to 2^53.
+    QByteArray json = QJsonDocument(object).toJson(QJsonDocument::Compact);
+    json.chop(1);
+    if (!object.isEmpty())
+        json += ',';
+    return json + "\"sampleCount\":" + QByteArray::number(static_cast<qulonglong>(record.sampleCount)) + '}';
 }
 
 std::optional<BatteryElectricalHistory> decodeElectricalHistory(const QByteArray &json)
@@ -162,7 +180,7 @@ std::optional<BatteryTemperatureHistory> decodeTemperatureHistory(const QByteArr
         || !takeOptional(*object, QLatin1StringView("minimumC"), record.minimumC)
         || !takeOptional(*object, QLatin1StringView("averageC"), record.averageC))
         return std::nullopt;
-    const std::optional<std::uint64_t> count = unsignedCount(object->value(QLatin1StringView("sampleCount")));
+    const std::optional<std::uint64_t> count = storedCount(json, *object);
     if (!count)
         return std::nullopt;
     record.sampleCount = *count;

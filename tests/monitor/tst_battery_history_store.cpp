@@ -3,6 +3,7 @@
 #include "platform/common/settings_key_value_store.h"
 
 #include <QJsonDocument>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -108,6 +109,7 @@ private slots:
         const BatteryTemperatureHistory before = record;
         record.record(99.0);
         QVERIFY(record == before); // the count saturates
+        QCOMPARE(decodeTemperatureHistory(*encodeRecord(record))->sampleCount, record.sampleCount); // and survives a save
         // A value JSON cannot carry makes a record unencodable, and what is not a JSON object does not decode.
         QCOMPARE(encodeRecord(BatteryElectricalHistory{12.0, 11.0, kInf, std::nullopt}), std::nullopt);
         QCOMPARE(encodeRecord(BatteryTemperatureHistory{30.0, kNaN, 30.0, 1}), std::nullopt);
@@ -122,6 +124,8 @@ private slots:
         QTest::newRow("valid") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"averageC\":29.75,\"sampleCount\":640}") << true;
         QTest::newRow("count at the signed maximum") << QByteArray("{\"maximumC\":30,\"minimumC\":30,\"averageC\":30,\"sampleCount\":9223372036854775807}") << true;
         QTest::newRow("count beyond the signed range") << QByteArray("{\"maximumC\":30,\"minimumC\":30,\"averageC\":30,\"sampleCount\":10000000000000000000}") << true;
+        QTest::newRow("count a thousand below the ceiling") << QByteArray("{\"maximumC\":30,\"minimumC\":30,\"averageC\":30,\"sampleCount\":18446744073709550615}") << true;
+        QTest::newRow("count beyond 64 bits") << QByteArray("{\"maximumC\":30,\"minimumC\":30,\"averageC\":30,\"sampleCount\":18446744073709551616}") << false;
         QTest::newRow("keys in any order") << QByteArray("{\"sampleCount\":1,\"averageC\":30,\"minimumC\":30,\"maximumC\":30}") << true;
         QTest::newRow("count zero") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"averageC\":29.75,\"sampleCount\":0}") << false;
         QTest::newRow("average below minimum") << QByteArray("{\"maximumC\":38.5,\"minimumC\":21.25,\"averageC\":21,\"sampleCount\":5}") << false;
@@ -147,10 +151,14 @@ private slots:
         defaults.setData(kTemperatureKey, stored);
         BatteryHistoryStore store(defaults);
         const BatteryTemperatureHistory record = store.recordTemperature(kSerial, std::nullopt);
-        if (kept)
-            QCOMPARE(encodeRecord(record), std::optional(QJsonDocument::fromJson(stored).toJson(QJsonDocument::Compact)));
-        else
+        if (kept) {
+            const QByteArray saved = *encodeRecord(record);
+            QCOMPARE(QJsonDocument::fromJson(saved), QJsonDocument::fromJson(stored)); // every field as stored
+            static const QRegularExpression count(QStringLiteral(R"("sampleCount":(\d+))"));
+            QCOMPARE(count.match(QString::fromUtf8(saved)).captured(1), count.match(QString::fromUtf8(stored)).captured(1)); // to the last digit
+        } else {
             QVERIFY(record == BatteryTemperatureHistory{});
+        }
     }
 
     void storedElectricalRecord_data()
