@@ -104,6 +104,8 @@ private slots:
         QTest::newRow("desktop: no battery flow") << desktop() << QByteArray("ferrow_battery_flow_watts") << QByteArray();
         QTest::newRow("desktop: no charge power") << desktop() << QByteArray("ferrow_battery_charge_power_watts") << QByteArray();
         QTest::newRow("desktop: battery absent as 0") << desktop() << QByteArray("ferrow_battery_present") << QByteArray("0");
+        QTest::newRow("absent temperature") << [] { auto r = notebook(); r.batteryTemperatureC.reset(); return r; }()
+                                            << QByteArray("ferrow_battery_temperature_celsius") << QByteArray();
         QTest::newRow("desktop: system power") << desktop() << QByteArray("ferrow_system_power_watts") << QByteArray("14.5");
 
         PowerSnapshot waiting = notebook();

@@ -197,6 +197,13 @@ private slots:
             expect({{"estimatedMinutesToFull", 5999}}));
         row("estimate at 0.35 W", [=](FakeMachine &m) { estimating(m, 2.1f, 6000, 3000); setFloatKey(m, "PSTR", 41.65f); },
             expect({{"estimatedMinutesToFull", 5999}}));
+        row("estimate at exactly 0.3 W", [=](FakeMachine &m) { // 0.5 W in, 0.2 W to the system
+                estimating(m, 1.0f, 6000, 3000);
+                setFloatKey(m, "VD0R", 0.5f);
+                m.smc.removeKey("PSTR");
+                nested(*m.battery, "PowerTelemetryData")[QStringLiteral("SystemLoad")] = 200;
+            },
+            expect({{"batteryChargePowerW", 0.3}, {"estimatedMinutesToFull", 5999}}));
         row("no estimate without remaining charge", [=](FakeMachine &m) { estimating(m, 2.1f, 6000, 0); }, expect({{"estimatedMinutesToFull", null}}));
         row("no estimate below 0.3 W", [=](FakeMachine &m) { estimating(m, 2.1f, 6000, 3000); setFloatKey(m, "PSTR", 41.9f); },
             expect({{"estimatedMinutesToFull", null}}));
@@ -226,6 +233,11 @@ private slots:
             },
             expect({{"lifetimeMaxTemperatureC", null}, {"lifetimeAverageTemperatureC", null}, {"lifetimeMinTemperatureC", null},
                     {"totalOperatingMinutes", null}, {"batterySafetyProtectionCount", null}}));
+        row("lifetime values past their other ends", [](FakeMachine &m) {
+                nested(nested(*m.battery, "BatteryData"), "LifetimeData")[QStringLiteral("TotalOperatingTime")] = -1;
+                top(m, "BatteryCellDisconnectCount") = 1'000'001;
+            },
+            expect({{"totalOperatingMinutes", null}, {"batterySafetyProtectionCount", null}}));
         row("lifetime temperatures at their bounds", [](FakeMachine &m) {
                 PropertyDictionary &lifetime = nested(nested(*m.battery, "BatteryData"), "LifetimeData");
                 lifetime[QStringLiteral("MaximumTemperature")] = 120;
@@ -262,7 +274,9 @@ private slots:
         row("battery not installed", [](FakeMachine &m) { top(m, "BatteryInstalled") = false; },
             expect({{"hasBattery", false}, {"batteryPercent", 0}, {"isExternalConnected", true}, {"isCharging", false},
                     {"designCapacityMAH", 6075}, {"cycleCount", 212}, {"batteryVoltageV", 12.4}, {"batteryHealthPercent", null},
-                    {"lifetimeMaxPackVoltageV", null}, {"estimatedMinutesToFull", 95}}));
+                    {"lifetimeMaxPackVoltageV", null}, {"estimatedMinutesToFull", 95},
+                    {"lifetimeMaxTemperatureC", 45}, {"lifetimeMinTemperatureC", 12}})); // the battery's own, on older systems
+        row("no word on installation: a battery", [](FakeMachine &m) { removeTop(m, "BatteryInstalled"); }, expect({{"hasBattery", true}}));
     }
 
     void read()
