@@ -5,7 +5,7 @@
 
 #if defined(Q_OS_LINUX)
 #include "platform/common/in_memory_key_value_store.h"
-#include "platform/linux/linux_machine.h"
+#include "platform/linux/linux_power_reader.h"
 #endif
 
 #include <benchmark/benchmark.h>
@@ -35,7 +35,7 @@ namespace {
 // Times reader.read() after a baseline reading, with beforeEach run outside the timing, and
 // counts the heap allocations of one read where the C library lets us.
 template <typename BeforeEach>
-void timeReads(benchmark::State &state, PowerSensorReader &reader, BeforeEach beforeEach)
+void timeReads(benchmark::State &state, SnapshotReader &reader, BeforeEach beforeEach)
 {
     reader.read();
     std::size_t allocations = 0;
@@ -68,8 +68,8 @@ BENCHMARK(BM_ReadSimulatedNotebook)->Arg(26)->Arg(27)->ArgName("macOS");
 // and read as on the machine itself, from a copied tree.
 void BM_ReadLinuxMachine(benchmark::State &state, const char *tree)
 {
-    PowerSensorReader reader{std::make_unique<LinuxMachine>(std::make_unique<SysfsFiles>(std::string(FERROW_SOURCE_DIR "/tests/fixtures/") + tree),
-                                                            std::make_unique<InMemoryKeyValueStore>())};
+    LinuxPowerReader reader(std::make_unique<SysfsFiles>(std::string(FERROW_SOURCE_DIR "/tests/fixtures/") + tree),
+                            std::make_unique<InMemoryKeyValueStore>());
     timeReads(state, reader, [] {});
 }
 BENCHMARK_CAPTURE(BM_ReadLinuxMachine, intel_notebook, "sysfs-intel-notebook");

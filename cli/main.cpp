@@ -5,7 +5,6 @@
 #include "app/text_table.h"
 #include "model/snapshot_json.h"
 #include "metrics_server.h"
-#include "sources/power_sensor_reader.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -112,10 +111,10 @@ int main(int argc, char *argv[])
         err << "ferrow-cli: reading the " << machine->description << Qt::endl;
     const std::shared_ptr<const void> onPace = keepTimersOnPace(); // --watch and --serve read once a second
     if (parser.isSet(serveOption))
-        return serveMetrics(std::make_unique<PowerSensorReader>(std::move(machine->platform)), parser.value(serveOption),
+        return serveMetrics(std::move(machine->reader), parser.value(serveOption),
                             machine->description);
     const bool realTime = machine->runsInRealTime;
-    PowerSensorReader reader(std::move(machine->platform));
+    SnapshotReader &reader = *machine->reader;
 
     QTextStream out(stdout);
     const bool json = parser.isSet(jsonOption);

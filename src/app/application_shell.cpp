@@ -7,7 +7,6 @@
 #include "model/localized_text.h"
 #include "monitor/power_monitor.h"
 #include "monitor/sleep_wake_notifier.h"
-#include "sources/power_sensor_reader.h"
 #include "views/dashboard_view.h"
 #include "views/main_window_view.h"
 #include "views/view_painting.h"
@@ -49,7 +48,7 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     , m_showPower(readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true))
     , m_sleepWake(std::move(sleepWake))
     , m_loginItem(std::move(loginItem))
-    , m_monitor(std::make_unique<PowerMonitor>(std::make_unique<PowerSensorReader>(std::move(machine.platform)), m_sleepWake.get()))
+    , m_monitor(std::make_unique<PowerMonitor>(std::move(machine.reader), m_sleepWake.get()))
     , m_menuBarItem(std::move(menuBarItem))
 {
 

@@ -3,6 +3,7 @@
 #include "platform/recorded/recorded_machine.h"
 #include "platform/simulated/simulated_machine.h"
 #include "sources/mac_source_diagnosis.h"
+#include "sources/power_sensor_reader.h"
 
 #include <QSettings>
 
@@ -15,7 +16,7 @@
 #include "platform/common/in_memory_key_value_store.h"
 #include "platform/common/settings_key_value_store.h"
 #include "platform/linux/linux_diagnosis.h"
-#include "platform/linux/linux_machine.h"
+#include "platform/linux/linux_power_reader.h"
 
 #include <QFile>
 #endif
@@ -37,50 +38,30 @@ std::optional<MachineSource> MachineSource::parse(const QString &text)
     return std::nullopt;
 }
 
-#if defined(Q_OS_LINUX)
 namespace {
 
-OpenedMachine openedLinuxMachine(std::unique_ptr<LinuxMachine> machine, QString description)
-{
-    OpenedMachine opened{nullptr, std::move(description), false, true};
-    opened.chipPowerNeedsPermission = machine->chipPowerNeedsPermission();
-    opened.platform = std::move(machine);
-    return opened;
-}
+// A machine read through the Mac's own sources: the Mac itself, or one that reproduces a Mac.
+struct MacSources {
+    std::unique_ptr<MachinePlatform> platform;
+    QString description;
+    bool isSimulated = false;
+    bool runsInRealTime = true;
+    const char *subtitleKey = "app.menu_subtitle";
+};
 
-std::optional<OpenedMachine> openSysfsTree(const QString &root, QString *error)
-{
-    if (!QFile::exists(root + QStringLiteral("/sys/class"))) {
-        if (error)
-            *error = QStringLiteral("%1: no sys/class folder in it, so not a copied tree").arg(root);
-        return std::nullopt;
-    }
-    // Read in real time, as a machine, so that a graphics card's recorded power integrates as it
-    // would live. A copy's battery extremes stay out of the user's own.
-    auto machine = std::make_unique<LinuxMachine>(std::make_unique<SysfsFiles>(QFile::encodeName(root).toStdString()),
-                                                  std::make_unique<InMemoryKeyValueStore>());
-    return openedLinuxMachine(std::move(machine), QStringLiteral("copied tree at ") + root);
-}
-
-} // namespace
-#endif
-
-std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *error)
+std::optional<MacSources> openMacSources(const MachineSource &source, QString *error)
 {
     using Kind = SimulatedPowerModel::Kind;
     const auto simulated = [](Kind kind, const char *description, const char *subtitleKey) {
         SimulatedMachine::Options options;
         options.kind = kind;
-        return OpenedMachine{std::make_unique<SimulatedMachine>(options), QString::fromLatin1(description), true, true, subtitleKey};
+        return MacSources{std::make_unique<SimulatedMachine>(options), QString::fromLatin1(description), true, true, subtitleKey};
     };
     switch (source.kind) {
     case MachineSource::Kind::automatic:
 #if defined(Q_OS_MACOS)
-        return OpenedMachine{std::make_unique<MacMachine>(), QStringLiteral("this Mac"), false, true};
-#elif defined(Q_OS_LINUX)
-        if (auto machine = std::make_unique<LinuxMachine>(std::make_unique<SysfsFiles>(), std::make_unique<SettingsKeyValueStore>());
-            machine->hasPowerSources())
-            return openedLinuxMachine(std::move(machine), QStringLiteral("this Linux machine"));
+        return MacSources{std::make_unique<MacMachine>(), QStringLiteral("this Mac")};
+#else
         return simulated(Kind::notebook, "simulated notebook (this machine shows no battery, power supply or power sensor)",
                          "app.menu_subtitle_simulated");
 #endif
@@ -89,13 +70,9 @@ std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *e
     case MachineSource::Kind::simulatedDesktop:
         return simulated(Kind::desktop, "simulated desktop", "app.menu_subtitle_simulated_desktop");
     case MachineSource::Kind::sysfsTree:
-#if defined(Q_OS_LINUX)
-        return openSysfsTree(source.recordingPath, error);
-#else
         if (error)
             *error = QStringLiteral("sysfs:%1: copied Linux trees are read by Linux builds only").arg(source.recordingPath);
         return std::nullopt;
-#endif
     case MachineSource::Kind::recorded:
         break;
     }
@@ -103,8 +80,64 @@ std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *e
     if (!recording)
         return std::nullopt;
     const QString description = recording->description.isEmpty() ? source.recordingPath : recording->description;
-    return OpenedMachine{std::make_unique<RecordedMachine>(std::move(*recording)), QStringLiteral("recording of ") + description, false,
-                         false};
+    return MacSources{std::make_unique<RecordedMachine>(std::move(*recording)), QStringLiteral("recording of ") + description, false, false};
+}
+
+#if defined(Q_OS_LINUX)
+bool isCopiedTree(const QString &root, QString *error)
+{
+    if (QFile::exists(root + QStringLiteral("/sys/class")))
+        return true;
+    if (error)
+        *error = QStringLiteral("%1: no sys/class folder in it, so not a copied tree").arg(root);
+    return false;
+}
+
+// This machine when it has anything to read, or a copied tree (read in real time, as a machine,
+// so that a graphics card's recorded power integrates as it would live; a copy's battery extremes
+// stay out of the user's own). Nothing where this machine has nothing.
+std::optional<OpenedMachine> openLinuxMachine(const MachineSource &source, QString *error, bool *isLinux)
+{
+    *isLinux = false;
+    std::unique_ptr<LinuxPowerReader> reader;
+    QString description;
+    if (source.kind == MachineSource::Kind::automatic) {
+        reader = std::make_unique<LinuxPowerReader>(std::make_unique<SysfsFiles>(), std::make_unique<SettingsKeyValueStore>());
+        if (!reader->hasPowerSources())
+            return std::nullopt;
+        description = QStringLiteral("this Linux machine");
+    } else if (source.kind == MachineSource::Kind::sysfsTree) {
+        *isLinux = true;
+        if (!isCopiedTree(source.recordingPath, error))
+            return std::nullopt;
+        reader = std::make_unique<LinuxPowerReader>(std::make_unique<SysfsFiles>(QFile::encodeName(source.recordingPath).toStdString()),
+                                                    std::make_unique<InMemoryKeyValueStore>());
+        description = QStringLiteral("copied tree at ") + source.recordingPath;
+    } else {
+        return std::nullopt;
+    }
+    *isLinux = true;
+    OpenedMachine opened{nullptr, std::move(description)};
+    opened.chipPowerNeedsPermission = reader->chipPowerNeedsPermission();
+    opened.reader = std::move(reader);
+    return opened;
+}
+#endif
+
+} // namespace
+
+std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *error)
+{
+#if defined(Q_OS_LINUX)
+    bool isLinux = false;
+    if (std::optional<OpenedMachine> opened = openLinuxMachine(source, error, &isLinux); opened || isLinux)
+        return opened;
+#endif
+    std::optional<MacSources> mac = openMacSources(source, error);
+    if (!mac)
+        return std::nullopt;
+    return OpenedMachine{std::make_unique<PowerSensorReader>(std::move(mac->platform)), std::move(mac->description), mac->isSimulated,
+                         mac->runsInRealTime, mac->subtitleKey};
 }
 
 namespace {
@@ -139,11 +172,8 @@ std::optional<Diagnosis> diagnoseMachine(const MachineSource &source, QString *e
     if (source.kind == MachineSource::Kind::automatic || source.kind == MachineSource::Kind::sysfsTree) {
         const bool thisMachine = source.kind == MachineSource::Kind::automatic;
         const QString root = thisMachine ? QStringLiteral("/") : source.recordingPath;
-        if (!thisMachine && !QFile::exists(root + QStringLiteral("/sys/class"))) {
-            if (error)
-                *error = QStringLiteral("%1: no sys/class folder in it, so not a copied tree").arg(root);
+        if (!thisMachine && !isCopiedTree(root, error))
             return std::nullopt;
-        }
         DiagnosisSection program = programSection(thisMachine ? QStringLiteral("this Linux machine") : QStringLiteral("copied tree at ") + root, thisMachine);
         if (thisMachine) {
             QFile release(QStringLiteral("/proc/sys/kernel/osrelease"));
@@ -156,7 +186,7 @@ std::optional<Diagnosis> diagnoseMachine(const MachineSource &source, QString *e
         return joined(std::move(program), diagnoseLinuxTree(files));
     }
 #endif
-    std::optional<OpenedMachine> machine = openMachine(source, error);
+    std::optional<MacSources> machine = openMacSources(source, error);
     if (!machine)
         return std::nullopt;
     return joined(programSection(machine->description, false), diagnoseMacSources(*machine->platform));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/diagnosis.h"
-#include "sources/platform_interfaces.h"
+#include "monitor/snapshot_reader.h"
 
 #include <QString>
 
@@ -22,7 +22,7 @@ struct MachineSource {
 };
 
 struct OpenedMachine {
-    std::unique_ptr<MachinePlatform> platform;
+    std::unique_ptr<SnapshotReader> reader;
     QString description;    // for a subtitle or a log line: "simulated notebook", "recording foo"
     bool isSimulated = false;
     bool runsInRealTime = true; // false for a recording, which steps through its own frames

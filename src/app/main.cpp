@@ -5,7 +5,6 @@
 #include "app/platform_services.h"
 #include "app/terminal_view.h"
 #include "app/text_table.h"
-#include "sources/power_sensor_reader.h"
 
 #include <QApplication>
 #include <QTextStream>
@@ -46,8 +45,7 @@ int runHeadless(int argc, char *argv[])
     }
     out << "ferrow: no display here, so the " << machine->description
         << " is shown in the terminal instead (Ctrl+C to stop)." << Qt::endl;
-    PowerSensorReader reader(std::move(machine->platform));
-    return runTerminalView(reader, false, out);
+    return runTerminalView(*machine->reader, false, out);
 }
 
 } // namespace

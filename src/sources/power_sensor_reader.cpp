@@ -1,6 +1,7 @@
 #include "sources/power_sensor_reader.h"
 
 #include "sources/mac_names.h"
+#include "sources/reading_rules.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,10 +13,8 @@ namespace {
 
 const std::string kPowerKeys[] = {"VD0R", "ID0R", "PSTR", "PDTR", "VP0R"};
 
-constexpr double kInputVoltageFloorV = 0.4;
-constexpr double kInputCurrentFloorA = 0.05;
-constexpr double kChargingOverrideW = 0.5;
-constexpr double kEstimateMinimumChargeW = 0.3;
+using namespace ReadingRules;
+
 constexpr int kFirstVersionWithSMCSensors = 27;
 
 const PropertyValue *at(const PropertyDictionary *dictionary, const char *name)
@@ -70,11 +69,7 @@ std::optional<std::int64_t> estimateMinutesToFull(std::optional<std::int64_t> vo
 {
     if (!voltageMV || !remainingMAH || *remainingMAH < 1 || fullMAH - *remainingMAH <= 0)
         return std::nullopt;
-    const double energyWh = static_cast<double>(*voltageMV) * static_cast<double>(fullMAH - *remainingMAH) / 1'000'000.0;
-    if (energyWh <= 0)
-        return std::nullopt;
-    const double minutes = std::round(energyWh / chargePowerW * 60.0);
-    return static_cast<std::int64_t>(std::clamp(minutes, 1.0, 5999.0));
+    return minutesToFull(static_cast<double>(*voltageMV) * static_cast<double>(fullMAH - *remainingMAH) / 1'000'000.0, chargePowerW);
 }
 
 } // namespace
@@ -140,12 +135,12 @@ PowerSnapshot PowerSensorReader::read()
     s.chipPower = m_chipReader->sample();
 
     // 3. External input.
-    const std::optional<double> inputVoltageV = readPowerKey("VD0R", 0, 300);
-    const std::optional<double> inputCurrentA = readPowerKey("ID0R", 0, 100);
+    const std::optional<double> inputVoltageV = readPowerKey("VD0R", 0, kMaximumInputVoltageV);
+    const std::optional<double> inputCurrentA = readPowerKey("ID0R", 0, kMaximumInputCurrentA);
     s.dcVoltageV = inputVoltageV && *inputVoltageV >= kInputVoltageFloorV ? *inputVoltageV : 0.0;
     s.dcCurrentA = inputCurrentA && *inputCurrentA >= kInputCurrentFloorA ? *inputCurrentA : 0.0;
-    const std::optional<double> inputPowerW = readPowerKey("PDTR", 0, 5000);
-    const std::optional<double> systemKeyW = readPowerKey("PSTR", 0, 5000);
+    const std::optional<double> inputPowerW = readPowerKey("PDTR", 0, kMaximumPowerW);
+    const std::optional<double> systemKeyW = readPowerKey("PSTR", 0, kMaximumPowerW);
     const std::optional<double> dcPowerW = inputVoltageV && inputCurrentA ? std::optional(s.dcVoltageV * s.dcCurrentA) : inputPowerW;
 
     // 4–6. Battery service, presence, system power.
@@ -167,12 +162,6 @@ PowerSnapshot PowerSensorReader::read()
         const std::optional<bool> reported = propertyBoolean(at(props, "ExternalConnected"));
         s.isExternalConnected = reported ? *reported : m_platform->systemInfo().hasExternalPowerAdapterDetails();
         s.batteryFlowW = dcPowerW.value_or(0.0) - systemPowerW.value_or(0.0);
-        // With neither side of the machine measured, the battery's own pack voltage and current
-        // are the only figure of its flow (a Linux notebook on its adapter).
-        const std::optional<std::int64_t> packMV = inRange(integerAt(props, "Voltage"), 1, 30'000);
-        const std::optional<std::int64_t> packMA = integerAt(props, "Amperage");
-        if (!dcPowerW && !systemPowerW && packMV && packMA && std::abs(*packMA) <= 100'000)
-            s.batteryFlowW = static_cast<double>(*packMV) * static_cast<double>(*packMA) / 1e6;
         s.batteryChargePowerW = s.isExternalConnected && s.batteryFlowW > 0 ? s.batteryFlowW : 0.0;
     }
 
@@ -230,7 +219,7 @@ PowerSnapshot PowerSensorReader::read()
         s.batteryVoltageV = static_cast<double>(*voltageMV) / 1000.0;
     const std::optional<std::int64_t> amperageMA = integerAt(props, "Amperage");
     const std::optional<double> signedCurrentA = amperageMA ? std::optional(static_cast<double>(*amperageMA) / 1000.0) : std::nullopt;
-    if (signedCurrentA && std::fabs(*signedCurrentA) <= 100.0)
+    if (signedCurrentA && std::fabs(*signedCurrentA) <= kMaximumBatteryCurrentA)
         s.batteryCurrentA = s.isCharging ? std::fabs(*signedCurrentA) : -std::fabs(*signedCurrentA);
 
     // 20. Electrical history, on every version, with the current's own sign.

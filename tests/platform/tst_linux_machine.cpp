@@ -1,7 +1,6 @@
 #include "model/snapshot_json.h"
 #include "platform/common/in_memory_key_value_store.h"
-#include "platform/linux/linux_machine.h"
-#include "sources/power_sensor_reader.h"
+#include "platform/linux/linux_power_reader.h"
 #include "support/json_compare.h"
 #include "support/json_rows.h"
 
@@ -54,24 +53,24 @@ QString copyOf(const QString &fixture, const QTemporaryDir &scratch)
     return scratch.path();
 }
 
-std::unique_ptr<LinuxMachine> machineAt(const QString &root, ManualClock **clock = nullptr)
+std::unique_ptr<LinuxPowerReader> readerAt(const QString &root, ManualClock **clock = nullptr)
 {
     auto manual = std::make_unique<ManualClock>();
     if (clock)
         *clock = manual.get();
-    return std::make_unique<LinuxMachine>(std::make_unique<SysfsFiles>(root.toStdString()), std::make_unique<InMemoryKeyValueStore>(),
-                                          std::move(manual));
+    return std::make_unique<LinuxPowerReader>(std::make_unique<SysfsFiles>(root.toStdString()), std::make_unique<InMemoryKeyValueStore>(),
+                                              std::move(manual));
 }
 
 // Two readings one second apart, the second edits made between them.
 QJsonObject readTwice(const QString &root, const QStringList &betweenReads)
 {
     ManualClock *clock = nullptr;
-    PowerSensorReader reader(machineAt(root, &clock));
-    reader.read();
+    const std::unique_ptr<LinuxPowerReader> reader = readerAt(root, &clock);
+    reader->read();
     applyEdits(root, betweenReads);
     clock->m_uptimeS += 1;
-    return snapshotToJson(reader.read());
+    return snapshotToJson(reader->read());
 }
 
 const QString kRapl = QStringLiteral("sys/class/powercap/intel-rapl:");
@@ -123,9 +122,9 @@ private slots:
         QTemporaryDir scratch;
         const QString root = copyOf(fixture, scratch);
         applyEdits(root, edits);
-        const std::unique_ptr<LinuxMachine> machine = machineAt(root);
-        QCOMPARE(machine->hasPowerSources(), hasPowerSources);
-        QCOMPARE(machine->chipPowerNeedsPermission(), needsPermission);
+        const std::unique_ptr<LinuxPowerReader> reader = readerAt(root);
+        QCOMPARE(reader->hasPowerSources(), hasPowerSources);
+        QCOMPARE(reader->chipPowerNeedsPermission(), needsPermission);
     }
 
     // A recorded tree holds the files a reading used, no others, and reads back the same.

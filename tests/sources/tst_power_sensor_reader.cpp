@@ -115,12 +115,12 @@ private slots:
             expect({{"systemPowerW", 0}, {"batteryFlowW", 30}}));
         row("no system power", [](FakeMachine &m) { m.smc.removeKey("PSTR"); removeTop(m, "PowerTelemetryData"); },
             expect({{"systemPowerW", 0}, {"isDataAvailable", false}, {"batteryFlowW", 30}}));
-        row("nothing measured: the pack's own flow", [](FakeMachine &m) {
+        row("nothing measured: no flow made up from the pack", [](FakeMachine &m) {
                 for (const char *k : {"VD0R", "ID0R", "PDTR", "PSTR"})
                     m.smc.removeKey(k);
                 removeTop(m, "PowerTelemetryData");
             },
-            expect({{"batteryFlowW", 17.98}, {"isDataAvailable", false}}));
+            expect({{"batteryFlowW", 0}, {"batteryChargePowerW", 0}, {"isDataAvailable", false}}));
         row("no rail voltage", [](FakeMachine &m) { m.smc.removeKey("VP0R"); }, expect({{"batteryRailVoltageV", null}}));
 
         // Flow and charging.

@@ -1,0 +1,270 @@
+#include "platform/linux/linux_power_reader.h"
+
+#include "platform/common/in_memory_key_value_store.h"
+#include "sources/battery_health_sources.h"
+#include "sources/battery_temperature_reader.h"
+#include "sources/reading_rules.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <chrono>
+#include <cmath>
+
+namespace ferrow {
+namespace {
+
+using namespace ReadingRules;
+
+class MonotonicClock final : public Clock {
+public:
+    WallTime now() const override { return std::chrono::system_clock::now(); }
+    // Seconds since boot without suspend, as the energy counters run.
+    double uptimeSeconds() const override
+    {
+        return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+    }
+};
+
+// Far beyond anything real; the temperature's tenths and the time in seconds stay well inside 64 bits.
+constexpr std::int64_t kLargestTemperatureDeciC = 100'000;
+constexpr std::int64_t kLongestTimeToFullS = 100'000'000;
+constexpr double kLargestMicroValue = 1e15;
+
+std::optional<double> asDouble(std::optional<std::int64_t> value)
+{
+    if (!value || std::fabs(static_cast<double>(*value)) > kLargestMicroValue)
+        return std::nullopt;
+    return static_cast<double>(*value);
+}
+
+// A capacity in mAh, from µAh or from µWh over the lowest design voltage: the scale the views
+// show. Absent where no such voltage is known; never from an invented one.
+std::optional<std::int64_t> capacityMAH(std::optional<std::int64_t> value, const BatteryReading &battery)
+{
+    const std::optional<double> micro = asDouble(value);
+    if (!micro || *micro <= 0)
+        return std::nullopt;
+    double mAh = *micro / 1000.0;
+    if (battery.energyUnits) {
+        const std::optional<double> designUV = asDouble(battery.voltageMinDesignUV);
+        if (!designUV || *designUV <= 0)
+            return std::nullopt;
+        mAh = *micro / *designUV * 1000.0;
+    }
+    const std::int64_t rounded = std::llround(mAh);
+    return rounded >= 1 && rounded <= 100'000 ? std::optional(rounded) : std::nullopt;
+}
+
+// The battery's current in A without its sign: its own, or its power over its voltage.
+std::optional<double> currentMagnitudeA(const BatteryReading &battery)
+{
+    const std::optional<double> currentUA = asDouble(battery.currentUA);
+    if (currentUA)
+        return std::fabs(*currentUA) / 1e6;
+    const std::optional<double> powerUW = asDouble(battery.powerUW), voltageUV = asDouble(battery.voltageUV);
+    if (powerUW && voltageUV && *voltageUV > 0)
+        return std::fabs(*powerUW) / *voltageUV;
+    return std::nullopt;
+}
+
+// The battery's power in W without its sign: its own, or its voltage times its current.
+std::optional<double> powerMagnitudeW(const BatteryReading &battery)
+{
+    const std::optional<double> powerUW = asDouble(battery.powerUW);
+    if (powerUW)
+        return std::fabs(*powerUW) / 1e6;
+    const std::optional<double> currentUA = asDouble(battery.currentUA), voltageUV = asDouble(battery.voltageUV);
+    if (currentUA && voltageUV)
+        return std::fabs(*currentUA) * *voltageUV / 1e12;
+    return std::nullopt;
+}
+
+// Positive into the battery. Drivers disagree on the current's sign (or give none); the status
+// word does not.
+double intoBatterySign(const BatteryReading &battery)
+{
+    const bool charging = battery.status == "Charging";
+    const bool discharging = battery.status == "Discharging";
+    return discharging || (!charging && battery.currentUA && *battery.currentUA < 0) ? -1.0 : 1.0;
+}
+
+std::optional<std::int64_t> stateOfChargePercent(const BatteryReading &battery)
+{
+    std::optional<std::int64_t> percent = battery.capacityPercent;
+    const std::optional<double> now = asDouble(battery.now), full = asDouble(battery.full);
+    if (!percent && now && full && *full > 0)
+        percent = std::llround(*now / *full * 100.0);
+    return percent ? std::optional(std::clamp<std::int64_t>(*percent, 0, 100)) : std::nullopt;
+}
+
+// Energy still to go in at the pack's voltage: the energies where the battery counts energy,
+// else its charges times its voltage.
+std::optional<double> energyToFullWh(const BatteryReading &battery, std::optional<double> voltageV)
+{
+    const std::optional<double> now = asDouble(battery.now), full = asDouble(battery.full);
+    if (!now || !full || *now < 1 || *full - *now <= 0)
+        return std::nullopt;
+    if (battery.energyUnits)
+        return (*full - *now) / 1e6;
+    return voltageV ? std::optional((*full - *now) / 1e6 * *voltageV) : std::nullopt;
+}
+
+} // namespace
+
+LinuxPowerReader::LinuxPowerReader(std::unique_ptr<SysfsFiles> files, std::unique_ptr<KeyValueStore> preferences,
+                                   std::unique_ptr<Clock> clock)
+    : m_files(std::move(files))
+    , m_preferences(std::move(preferences))
+    , m_clock(clock ? std::move(clock) : std::make_unique<MonotonicClock>())
+    , m_supplies(*m_files)
+    , m_hwmon(HwmonSensors::discover(*m_files))
+    , m_chip(ChipEnergyFiles::discover(*m_files, m_hwmon.gpuPowerFiles))
+    , m_chipReader(std::make_unique<ChipEnergySource>(*m_files, m_chip, *m_clock), *m_clock)
+    , m_history(*m_preferences)
+{
+}
+
+LinuxPowerReader::~LinuxPowerReader() = default;
+
+bool LinuxPowerReader::hasPowerSources() const
+{
+    return m_supplies.hasBattery() || m_supplies.hasExternalSupply() || !m_hwmon.smcKeys.empty()
+        || !m_hwmon.gpuPowerFiles.empty() || m_chip.raplZones > 0;
+}
+
+std::optional<double> LinuxPowerReader::sensor(const char *smcKey, double highest)
+{
+    const auto found = m_hwmon.smcKeys.find(smcKey);
+    if (found == m_hwmon.smcKeys.end())
+        return std::nullopt;
+    const std::optional<double> raw = asDouble(m_files->readInteger(found->second.path));
+    return within(raw ? std::optional(*raw * found->second.toSI) : std::nullopt, 0, highest);
+}
+
+PowerSnapshot LinuxPowerReader::read()
+{
+    PowerSnapshot s;
+    s.chipPower = m_chipReader.sample();
+
+    // The SMC's own input and system power where hwmon shows them; else a USB-C source's voltage.
+    std::optional<double> inputVoltageV = sensor("VD0R", kMaximumInputVoltageV);
+    if (!m_hwmon.smcKeys.contains("VD0R") && m_supplies.reportsInputVoltage())
+        inputVoltageV = within(m_supplies.readInputVoltageV(), 0, kMaximumInputVoltageV);
+    const std::optional<double> inputCurrentA = sensor("ID0R", kMaximumInputCurrentA);
+    s.dcVoltageV = inputVoltageV && *inputVoltageV >= kInputVoltageFloorV ? *inputVoltageV : 0.0;
+    s.dcCurrentA = inputCurrentA && *inputCurrentA >= kInputCurrentFloorA ? *inputCurrentA : 0.0;
+    std::optional<double> dcPowerW = inputVoltageV && inputCurrentA ? std::optional(s.dcVoltageV * s.dcCurrentA)
+                                                                    : sensor("PDTR", kMaximumPowerW);
+    std::optional<double> systemPowerW = sensor("PSTR", kMaximumPowerW);
+
+    const std::optional<BatteryReading> battery = m_supplies.readBattery();
+    const std::optional<bool> externalOnline = m_supplies.readExternalOnline();
+    // Without the SMC's figures, nothing comes in while no supply is online; with one online,
+    // what comes in is not measured here.
+    const bool smcPower = m_hwmon.smcKeys.contains("PDTR") || m_hwmon.smcKeys.contains("PSTR");
+    if (!dcPowerW && !smcPower && m_supplies.hasBattery() && externalOnline == false)
+        dcPowerW = 0.0;
+
+    s.hasBattery = battery.has_value();
+    if (battery) {
+        readBattery(s, *battery, externalOnline);
+        if (!systemPowerW && battery->status == "Discharging" && externalOnline != true)
+            systemPowerW = powerMagnitudeW(*battery); // on the battery alone the system draws what it gives
+    } else {
+        s.isExternalConnected = true;
+    }
+    if (s.hasBattery) {
+        s.batteryFlowW = dcPowerW.value_or(0.0) - systemPowerW.value_or(0.0);
+        // With neither side of the machine measured, the battery's own power is its flow.
+        if (!dcPowerW && !systemPowerW)
+            if (const std::optional<double> powerW = powerMagnitudeW(*battery))
+                s.batteryFlowW = intoBatterySign(*battery) * *powerW;
+        s.batteryChargePowerW = s.isExternalConnected && s.batteryFlowW > 0 ? s.batteryFlowW : 0.0;
+        if (s.isExternalConnected)
+            s.isCharging = battery->status == "Charging" || s.batteryChargePowerW > kChargingOverrideW;
+        const std::optional<double> currentA = currentMagnitudeA(*battery);
+        if (currentA && *currentA <= kMaximumBatteryCurrentA)
+            s.batteryCurrentA = s.isCharging ? *currentA : -*currentA;
+
+        // Time to full: the battery's own figure when it gives one, else an estimate while charging.
+        const std::optional<std::int64_t> reportedS = battery->timeToFullS;
+        const std::int64_t reportedMinutes = reportedS && *reportedS > 0 && *reportedS <= kLongestTimeToFullS ? (*reportedS + 30) / 60 : 0;
+        if (reportedMinutes >= 1 && reportedMinutes <= 65'534)
+            s.estimatedMinutesToFull = reportedMinutes;
+        else if (s.isCharging && s.batteryChargePowerW >= kEstimateMinimumChargeW && s.fullChargeCapacityMAH)
+            if (const std::optional<double> energyWh = energyToFullWh(*battery, s.batteryVoltageV))
+                s.estimatedMinutesToFull = minutesToFull(*energyWh, s.batteryChargePowerW);
+    }
+    s.dcPowerW = dcPowerW.value_or(0.0);
+    s.systemPowerW = systemPowerW.value_or(0.0);
+    s.isDataAvailable = dcPowerW.has_value() && systemPowerW.has_value();
+    s.updatedAt = m_clock->now();
+    return s;
+}
+
+void LinuxPowerReader::readBattery(PowerSnapshot &s, const BatteryReading &battery, std::optional<bool> externalOnline)
+{
+    s.isExternalConnected = externalOnline ? *externalOnline : battery.status == "Charging";
+    s.batteryPercent = stateOfChargePercent(battery).value_or(0);
+    s.designCapacityMAH = capacityMAH(battery.fullDesign, battery);
+    s.fullChargeCapacityMAH = capacityMAH(battery.full, battery);
+    s.remainingCapacityMAH = capacityMAH(battery.now, battery);
+    s.batteryHealthPercent = BatteryHealthSources::capacityHealthPercent(s.fullChargeCapacityMAH, s.designCapacityMAH);
+
+    if (battery.temperatureDeciC && std::abs(*battery.temperatureDeciC) <= kLargestTemperatureDeciC) {
+        const double celsius = static_cast<double>(*battery.temperatureDeciC) / 10.0;
+        if (isPlausibleBatteryTemperature(celsius))
+            s.batteryTemperatureC = celsius;
+    }
+    const std::optional<double> voltageUV = asDouble(battery.voltageUV);
+    s.batteryVoltageV = within(voltageUV ? std::optional(*voltageUV / 1e6) : std::nullopt, 0.001, 30.0);
+
+    const std::optional<QString> serial = battery.serialNumber ? std::optional(QString::fromStdString(*battery.serialNumber)) : std::nullopt;
+    const BatteryTemperatureHistory temperatures = m_history.recordTemperature(serial, s.batteryTemperatureC);
+    s.lifetimeMaxTemperatureC = temperatures.maximumC;
+    s.lifetimeMinTemperatureC = temperatures.minimumC;
+    s.lifetimeAverageTemperatureC = temperatures.averageC;
+    const std::optional<double> currentA = currentMagnitudeA(battery);
+    const BatteryElectricalHistory electrical = m_history.recordElectrical(
+        serial, s.batteryVoltageV, currentA ? std::optional(intoBatterySign(battery) * *currentA) : std::nullopt);
+    s.lifetimeMaxPackVoltageV = electrical.maximumVoltageV;
+    s.lifetimeMinPackVoltageV = electrical.minimumVoltageV;
+    s.lifetimeMaxChargeCurrentA = electrical.maximumChargeCurrentA;
+    s.lifetimeMaxDischargeCurrentA = electrical.maximumDischargeCurrentA;
+
+    // Drivers that do not count cycles say 0.
+    if (battery.cycleCount && *battery.cycleCount > 0)
+        s.cycleCount = battery.cycleCount;
+    if (battery.modelName)
+        s.deviceName = QString::fromStdString(*battery.modelName);
+    s.batterySerial = serial;
+}
+
+bool recordSysfsTree(const std::string &sourceRoot, const QString &folder, QString *error)
+{
+    QString ignored;
+    QString &message = error ? *error : ignored;
+    if (const QDir target(folder); target.exists() && !target.isEmpty()) {
+        message = QStringLiteral("%1 is not empty; record into a new folder").arg(folder);
+        return false;
+    }
+    if (!LinuxPowerReader(std::make_unique<SysfsFiles>(sourceRoot), std::make_unique<InMemoryKeyValueStore>()).hasPowerSources()) {
+        message = QStringLiteral("%1: no battery, power supply or power sensor under sys/class, nothing to record")
+                      .arg(QFile::decodeName(QByteArray::fromStdString(sourceRoot)));
+        return false;
+    }
+    auto files = std::make_unique<SysfsFiles>(sourceRoot);
+    files->copyReadsTo(QFile::encodeName(folder).toStdString());
+    const SysfsFiles &copy = *files;
+    LinuxPowerReader reader(std::move(files), std::make_unique<InMemoryKeyValueStore>());
+    reader.read();
+    reader.read(); // the energy counters' second sample
+    if (!copy.copyError().isEmpty()) {
+        message = copy.copyError();
+        return false;
+    }
+    return true;
+}
+
+} // namespace ferrow
