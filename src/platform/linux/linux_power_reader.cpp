@@ -212,7 +212,8 @@ void LinuxPowerReader::readBattery(PowerSnapshot &s, const BatteryReading &batte
     s.remainingCapacityMAH = capacityMAH(battery.now, battery);
     s.batteryHealthPercent = BatteryHealthSources::capacityHealthPercent(s.fullChargeCapacityMAH, s.designCapacityMAH);
 
-    if (battery.temperatureDeciC && std::abs(*battery.temperatureDeciC) <= kLargestTemperatureDeciC) {
+    if (battery.temperatureDeciC && *battery.temperatureDeciC >= -kLargestTemperatureDeciC
+        && *battery.temperatureDeciC <= kLargestTemperatureDeciC) {
         const double celsius = static_cast<double>(*battery.temperatureDeciC) / 10.0;
         if (isPlausibleBatteryTemperature(celsius))
             s.batteryTemperatureC = celsius;
