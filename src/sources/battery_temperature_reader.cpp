@@ -1,12 +1,13 @@
 #include "sources/battery_temperature_reader.h"
 
+#include "sources/mac_names.h"
+
 #include <cmath>
 
 namespace ferrow {
 namespace {
 
 constexpr const char *kSensorKeys[] = {"TB1T", "TB2T"};
-constexpr int kFirstVersionWithSensors = 27;
 
 } // namespace
 
@@ -44,7 +45,7 @@ std::optional<double> resolveTemperature(std::optional<double> registryC, bool h
         return std::nullopt;
     const std::optional<double> fallbackC =
         registryC && isPlausibleBatteryTemperature(*registryC) ? registryC : std::nullopt;
-    if (osMajorVersion < kFirstVersionWithSensors)
+    if (osMajorVersion < MacNames::firstVersionWithSMCSensors)
         return fallbackC;
 
     double sumC = 0;

@@ -15,7 +15,6 @@ const std::string kPowerKeys[] = {"VD0R", "ID0R", "PSTR", "PDTR", "VP0R"};
 
 using namespace ReadingRules;
 
-constexpr int kFirstVersionWithSMCSensors = 27;
 
 const PropertyValue *at(const PropertyDictionary *dictionary, const char *name)
 {
@@ -191,7 +190,7 @@ PowerSnapshot PowerSensorReader::read()
     const std::optional<std::int64_t> remainingMAH = integerAt(batteryData, "RemainingCapacity");
     s.remainingCapacityMAH = isValidCapacity(remainingMAH) ? remainingMAH : std::nullopt;
     CellVoltages cells = resolveCellVoltages(propertyNumberList(at(batteryData, "CellVoltage")), s.hasBattery,
-                                             osMajorVersion == kFirstVersionWithSMCSensors, m_cellReader, smc());
+                                             osMajorVersion == MacNames::firstVersionWithSMCSensors, m_cellReader, smc());
     s.cellVoltagesV = std::move(cells.voltagesV);
     s.cellVoltageSource = cells.source;
 
@@ -206,7 +205,7 @@ PowerSnapshot PowerSensorReader::read()
 
     // 18. Temperature history.
     const std::optional<QString> serial = propertyString(at(props, "Serial"));
-    if (s.hasBattery && osMajorVersion >= kFirstVersionWithSMCSensors) {
+    if (s.hasBattery && osMajorVersion >= MacNames::firstVersionWithSMCSensors) {
         const BatteryTemperatureHistory temperatures = historyStore().recordTemperature(serial, s.batteryTemperatureC);
         s.lifetimeMaxTemperatureC = temperatures.maximumC;
         s.lifetimeMinTemperatureC = temperatures.minimumC;
@@ -250,7 +249,7 @@ PowerSnapshot PowerSensorReader::read()
     s.totalOperatingMinutes = inRange(integerAt(lifetime, "TotalOperatingTime"), 0, 10'000'000);
 
     // 23. Lifetime temperatures from the battery itself on systems without the history.
-    if (osMajorVersion < kFirstVersionWithSMCSensors) {
+    if (osMajorVersion < MacNames::firstVersionWithSMCSensors) {
         s.lifetimeMaxTemperatureC = lifetimeTemperature(integerAt(lifetime, "MaximumTemperature"), 1.0);
         s.lifetimeMinTemperatureC = lifetimeTemperature(integerAt(lifetime, "MinimumTemperature"), 1.0);
         s.lifetimeAverageTemperatureC = lifetimeTemperature(integerAt(lifetime, "AverageTemperature"), 10.0);
