@@ -1,6 +1,7 @@
 #include "app/app_services.h"
 
 #include "model/localized_text.h"
+#include "model/value_text.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -19,7 +20,7 @@ QString appVersionString(const std::optional<QString> &shortVersion, const std::
         return *shortVersion;
     if (buildVersion)
         return *buildVersion;
-    return QString::fromUtf16(kAbsentText);
+    return absentText();
 }
 
 void registerBrandFonts()

@@ -1,6 +1,7 @@
 #include "app/menu_bar_label.h"
 
 #include "model/localized_text.h"
+#include "model/value_text.h"
 #include "views/view_painting.h"
 
 #include <QFontMetricsF>
@@ -32,7 +33,7 @@ QString menuBarFigureText(const PowerSnapshot &snapshot)
 QString trayIconFigure(std::optional<double> powerW)
 {
     if (!powerW || !std::isfinite(*powerW))
-        return QString::fromUtf16(kAbsentText);
+        return absentText();
     return QString::asprintf(std::fabs(*powerW) < 9.95 ? "%.1f" : "%.0f", *powerW);
 }
 

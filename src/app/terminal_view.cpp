@@ -1,7 +1,7 @@
 #include "app/terminal_view.h"
 
 #include "model/snapshot_json.h"
-#include "views/dashboard_model.h"
+#include "model/value_text.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -1,21 +1,15 @@
 #include "model/power_snapshot.h"
 
 #include "model/localized_text.h"
+#include "model/value_text.h"
 
 #include <cmath>
 
 namespace ferrow {
 namespace {
 
-constexpr double kBatterySideFlowThresholdW = -0.05;
-constexpr double kFlowDeadBandW = 0.05;
 constexpr double kChargingPowerThresholdW = 0.3;
 constexpr double kConnectedInputVoltageV = 0.1;
-
-double deadBanded(double flowW)
-{
-    return std::fabs(flowW) < kFlowDeadBandW ? 0.0 : flowW;
-}
 
 } // namespace
 
@@ -93,7 +87,12 @@ bool PowerSnapshot::isBatterySide() const
     if (!isExternalConnected)
         return true;
     // A NaN flow compares false here, so it keeps the input side.
-    return !isCharging && batteryFlowW < kBatterySideFlowThresholdW;
+    return !isCharging && batteryFlowW < -kBatteryFlowDeadBandW;
+}
+
+double PowerSnapshot::shownBatteryFlowW() const
+{
+    return std::fabs(batteryFlowW) < kBatteryFlowDeadBandW ? 0.0 : batteryFlowW;
 }
 
 std::optional<double> PowerSnapshot::displayPowerW() const
@@ -102,7 +101,7 @@ std::optional<double> PowerSnapshot::displayPowerW() const
         return dcPowerW;
     if (!isDataAvailable)
         return std::nullopt;
-    return deadBanded(batteryFlowW);
+    return shownBatteryFlowW();
 }
 
 std::optional<double> PowerSnapshot::displayCurrentA() const
@@ -115,7 +114,7 @@ std::optional<double> PowerSnapshot::displayCurrentA() const
     if (!divisorV)
         return std::nullopt;
     // No zero guard: 0 V yields an infinity (or NaN), which the views show as it is.
-    return deadBanded(batteryFlowW) / *divisorV;
+    return shownBatteryFlowW() / *divisorV;
 }
 
 const char *PowerSnapshot::statusKey() const
@@ -150,7 +149,7 @@ QString PowerSnapshot::powerSourceText() const
 QString PowerSnapshot::timeToFullText() const
 {
     if (!estimatedMinutesToFull || *estimatedMinutesToFull < 1)
-        return QString::fromUtf16(kAbsentText);
+        return absentText();
     const std::int64_t minutes = *estimatedMinutesToFull;
     if (minutes < 60)
         return localizedFormat("duration.minutes", {minutes});

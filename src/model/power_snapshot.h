@@ -9,6 +9,9 @@
 
 namespace ferrow {
 
+// A battery flow smaller than this, either way, reads as idle.
+inline constexpr double kBatteryFlowDeadBandW = 0.05;
+
 // Wall-clock time with sub-second precision; the history's gap rule needs it.
 using WallTime = std::chrono::system_clock::time_point;
 
@@ -85,6 +88,8 @@ struct PowerSnapshot {
     // True when the headline figures come from the battery rather than the external input.
     bool isBatterySide() const;
 
+    // The battery's flow as shown: below the dead band it is neither charging nor discharging.
+    double shownBatteryFlowW() const;
     std::optional<double> displayPowerW() const;
     std::optional<double> displayCurrentA() const;
 

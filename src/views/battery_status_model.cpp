@@ -1,6 +1,7 @@
 #include "views/battery_status_model.h"
 
 #include "model/localized_text.h"
+#include "model/value_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +11,7 @@ namespace ferrow {
 QString batteryHealthText(const PowerSnapshot &s)
 {
     if (!s.batteryHealthPercent)
-        return QString::fromUtf16(kAbsentText);
+        return absentText();
     if (!s.batteryHealthCondition)
         return QString::number(*s.batteryHealthPercent) + u'%';
     QString text = localizedText("battery.health_value");
@@ -21,7 +22,7 @@ QString batteryHealthText(const PowerSnapshot &s)
 
 QString batteryTemperatureText(std::optional<double> celsius)
 {
-    return celsius ? QString::asprintf("%.1f \u00B0C", *celsius) : QString::fromUtf16(kAbsentText);
+    return formatFigure(celsius, "%.1f \u00B0C");
 }
 
 double segmentFillFraction(std::int64_t level, int index)
@@ -32,14 +33,14 @@ double segmentFillFraction(std::int64_t level, int index)
 MeterValueText meterValueText(std::optional<double> value)
 {
     if (!value || !std::isfinite(*value))
-        return {QString::fromUtf16(kAbsentText), QString()};
+        return {absentText(), QString()};
     const QString text = QString::asprintf("%.5f", *value);
     return {text.chopped(2), text.right(2)};
 }
 
 QString meterAccessibleText(const QString &code, std::optional<double> value, const QString &unit)
 {
-    const QString figure = value && std::isfinite(*value) ? QString::asprintf("%.5f", *value) : QString::fromUtf16(kAbsentText);
+    const QString figure = formatFigure(value, "%.5f");
     return code + u' ' + figure + u' ' + unit;
 }
 

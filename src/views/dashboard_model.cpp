@@ -1,6 +1,7 @@
 #include "views/dashboard_model.h"
 
 #include "model/localized_text.h"
+#include "model/value_text.h"
 
 #include <cmath>
 
@@ -25,19 +26,6 @@ QString meterCaption(const PowerSnapshot &snapshot)
     return snapshot.isBatterySide() ? localizedText("power.battery_discharge") : QStringLiteral("DC IN");
 }
 
-QString formatFigure(std::optional<double> value, const char *format)
-{
-    // A figure with no finite value (a 0 V divisor) reads as absent, never "inf".
-    return value && std::isfinite(*value) ? QString::asprintf(format, *value) : QString::fromUtf16(kAbsentText);
-}
-
-QString signedCurrentText(std::optional<double> currentA)
-{
-    if (!currentA || !std::isfinite(*currentA))
-        return QString::fromUtf16(kAbsentText);
-    return (*currentA > 0 ? QStringLiteral("+") : QString()) + QString::asprintf("%.3f A", *currentA);
-}
-
 std::array<TelemetryRowModel, 4> telemetryRows(const PowerSnapshot &s)
 {
     if (!s.hasBattery) {
@@ -49,7 +37,7 @@ std::array<TelemetryRowModel, 4> telemetryRows(const PowerSnapshot &s)
         }};
     }
     const bool batteryPowered = s.isBatterySide();
-    const QString cycles = s.cycleCount ? QString::number(*s.cycleCount) : QString::fromUtf16(kAbsentText);
+    const QString cycles = s.cycleCount ? QString::number(*s.cycleCount) : absentText();
     return {{
         {localizedText("battery.cycle_count"), cycles, ColorRole::primaryText, true},
         {localizedText("battery.voltage"), formatFigure(batteryPowered ? displayVoltageV(s) : s.batteryVoltageV, "%.2f V"),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/power_snapshot.h"
+#include "model/value_text.h"
 #include "views/ferrow_palette.h"
 
 #include <QString>
@@ -29,10 +30,5 @@ StatusIndicator statusIndicator(const PowerSnapshot &snapshot);
 std::optional<double> displayVoltageV(const PowerSnapshot &snapshot);
 QString meterCaption(const PowerSnapshot &snapshot);
 std::array<TelemetryRowModel, 4> telemetryRows(const PowerSnapshot &snapshot);
-
-// "%.1f W"-style figures; absent shows the dash.
-QString formatFigure(std::optional<double> value, const char *format);
-// "+1.500 A" above zero, "0.000 A" at zero, "-0.250 A" below.
-QString signedCurrentText(std::optional<double> currentA);
 
 } // namespace ferrow

@@ -256,7 +256,7 @@ DashboardView::DashboardView(QWidget *parent)
     column->addWidget(footer);
     column->addStretch();
 
-    setVersion(QString::fromUtf16(kAbsentText));
+    setVersion(absentText());
     setFerrowPalette(m_palette);
     setSnapshot(PowerSnapshot::empty());
 }

@@ -1,6 +1,7 @@
 #include "views/main_window_model.h"
 
 #include "model/localized_text.h"
+#include "model/value_text.h"
 #include "views/battery_status_model.h"
 #include "views/dashboard_model.h"
 
@@ -16,10 +17,6 @@ namespace {
 constexpr double kFollowBand = 52;
 const QString kBullet = QStringLiteral("\u2022");
 
-QString absent()
-{
-    return QString::fromUtf16(kAbsentText);
-}
 
 } // namespace
 
@@ -54,30 +51,6 @@ std::optional<MainSection> sectionFollowingScroll(const std::map<MainSection, do
     return nearest ? std::optional(nearest->first) : std::nullopt;
 }
 
-QString timeOfDayText(const QTime &time, const QLocale &locale)
-{
-    // The long format is the one with seconds; it also names the time zone ("t", maybe in brackets
-    // or after a comma), which a clock on this machine has no need of.
-    QString format = locale.timeFormat(QLocale::LongFormat);
-    bool quoted = false;
-    for (qsizetype i = 0; i < format.size(); ++i) {
-        if (format[i] == u'\'')
-            quoted = !quoted;
-        if (quoted || format[i] != u't')
-            continue;
-        qsizetype from = i, to = i + 1;
-        if (from > 0 && to < format.size() && QStringLiteral("([").contains(format[from - 1]) && QStringLiteral(")]").contains(format[to])) {
-            --from;
-            ++to;
-        }
-        while (from > 0 && (format[from - 1] == u' ' || format[from - 1] == u','))
-            --from;
-        format.remove(from, to - from);
-        break;
-    }
-    return locale.toString(time, format.trimmed());
-}
-
 const char *overviewTitleKey(const PowerSnapshot &s)
 {
     if (!s.hasBattery)
@@ -97,15 +70,14 @@ const char *overviewSubtitleKey(const PowerSnapshot &s)
 QString batteryPowerText(const PowerSnapshot &s)
 {
     if (!s.isDataAvailable || !std::isfinite(s.batteryFlowW))
-        return absent();
-    const double flowW = std::fabs(s.batteryFlowW) < 0.05 ? 0.0 : s.batteryFlowW;
-    return (flowW > 0 ? QStringLiteral("+") : QString()) + QString::asprintf("%.1f W", flowW);
+        return absentText();
+    return signedWattsText(s.shownBatteryFlowW());
 }
 
 QString maskedSerial(const PowerSnapshot &s)
 {
     if (!s.hasBattery || !s.batterySerial || s.batterySerial->isEmpty())
-        return absent();
+        return absentText();
     const QString &serial = *s.batterySerial;
     if (serial.size() < 9)
         return kBullet.repeated(serial.size());
@@ -115,7 +87,7 @@ QString maskedSerial(const PowerSnapshot &s)
 QString durationText(std::optional<std::int64_t> minutes)
 {
     if (!minutes)
-        return absent();
+        return absentText();
     const std::int64_t m = *minutes;
     if (m >= 1440)
         return localizedFormat("duration.days_hours", {m / 1440, (m / 60) % 24});
@@ -126,12 +98,12 @@ QString durationText(std::optional<std::int64_t> minutes)
 
 QString capacityText(std::optional<std::int64_t> mAh)
 {
-    return mAh ? localizedFormat("capacity.mah", {*mAh}) : absent();
+    return mAh ? localizedFormat("capacity.mah", {*mAh}) : absentText();
 }
 
 QString countText(std::optional<std::int64_t> count)
 {
-    return count ? localizedCount("count.times", *count) : absent();
+    return count ? localizedCount("count.times", *count) : absentText();
 }
 
 int cellGridColumns(std::size_t cellCount)
@@ -151,7 +123,7 @@ std::vector<ValueRow> distributionRows(const PowerSnapshot &s)
         {localizedText("power.system_total"), QString::asprintf("%.1f W", s.systemPowerW)},
     };
     if (s.hasBattery) {
-        const double flowW = std::fabs(s.batteryFlowW) < 0.05 ? 0.0 : s.batteryFlowW;
+        const double flowW = s.shownBatteryFlowW();
         rows.push_back({localizedText("power.battery_power"), batteryPowerText(s),
                         flowW > 0 ? ColorRole::positive : flowW < 0 ? ColorRole::dischargePink : ColorRole::primaryText});
     }

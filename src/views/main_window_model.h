@@ -26,7 +26,6 @@ const char *sectionTitleKey(MainSection section);
 std::optional<MainSection> sectionFollowingScroll(const std::map<MainSection, double> &topOffsets);
 
 // A time of day in the locale's own words, to the second, without a date or a time zone.
-QString timeOfDayText(const QTime &time, const QLocale &locale);
 
 const char *overviewTitleKey(const PowerSnapshot &snapshot);
 const char *overviewSubtitleKey(const PowerSnapshot &snapshot);

@@ -472,7 +472,7 @@ MainWindowView::MainWindowView(QWidget *parent)
     connect(&m_scrollAnimation, &QPropertyAnimation::finished, this, &MainWindowView::followScroll);
 
     setSelection(MainSection::overview, false);
-    setVersion(QString::fromUtf16(kAbsentText));
+    setVersion(absentText());
     setSnapshot(m_snapshot);
     setFerrowPalette(m_palette);
 }

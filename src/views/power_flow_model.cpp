@@ -1,6 +1,7 @@
 #include "views/power_flow_model.h"
 
 #include "model/localized_text.h"
+#include "model/value_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,16 +9,10 @@
 namespace ferrow {
 namespace {
 
-constexpr double kIdleFlowW = 0.05;
 constexpr double kDCInputThresholdW = 0.1;
 constexpr double kNodeCentreY = 17.5; // half a 35-point node
 constexpr double kChargingTrunkShare = 0.36;
 constexpr double kDischargingFeedShare = 0.62;
-
-double snappedFlow(double flowW)
-{
-    return std::fabs(flowW) < kIdleFlowW ? 0.0 : flowW;
-}
 
 QPointF lerp(QPointF a, QPointF b, double t)
 {
@@ -83,7 +78,7 @@ QPointF FlowStroke::pointAt(double t) const
 
 FlowInputs flowInputs(const PowerSnapshot &s)
 {
-    return {snappedFlow(s.batteryFlowW), s.dcPowerW > kDCInputThresholdW, s.hasBattery};
+    return {s.shownBatteryFlowW(), s.dcPowerW > kDCInputThresholdW, s.hasBattery};
 }
 
 FlowCase flowCase(const FlowInputs &inputs)
@@ -169,7 +164,7 @@ std::array<FlowDot, 3> flowDots(const FlowInputs &inputs, QSizeF size, double ph
 
 FlowNodeValue batteryNodeValue(const PowerSnapshot &s)
 {
-    const double flowW = snappedFlow(s.batteryFlowW);
+    const double flowW = s.shownBatteryFlowW();
     FlowNodeValue node{flowW, QString(), ColorRole::secondaryText};
     if (flowW > 0) {
         node.prefix = QStringLiteral("+");
@@ -184,9 +179,8 @@ FlowNodeValue batteryNodeValue(const PowerSnapshot &s)
 
 QString flowNodeValueText(const FlowNodeValue &node)
 {
-    if (!node.valueW || !std::isfinite(*node.valueW))
-        return QString::fromUtf16(kAbsentText);
-    return node.prefix + QString::asprintf("%.1f W", *node.valueW);
+    const QString figure = formatFigure(node.valueW, "%.1f W");
+    return figure == absentText() ? figure : node.prefix + figure;
 }
 
 } // namespace ferrow

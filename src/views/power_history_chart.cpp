@@ -59,13 +59,10 @@ private:
     const FerrowPalette *m_palette;
 };
 
-// The hour and minute of a mark, in the locale's short time style (never with seconds).
-QString timeOfDayText(WallTime time)
+// The hour and minute of a mark, in the locale's short time style.
+QString markText(WallTime time)
 {
-    const QLocale locale;
-    QString format = locale.timeFormat(QLocale::ShortFormat);
-    format.remove(QStringLiteral(":ss"));
-    return locale.toString(QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(epochMilliseconds(time))).time(), format);
+    return timeOfDayText(QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(epochMilliseconds(time))).time(), QLocale(), Seconds::hidden);
 }
 
 std::chrono::seconds localUtcOffset(WallTime time)
@@ -80,7 +77,7 @@ std::chrono::seconds localUtcOffset(WallTime time)
 // Painted as one widget, so accessibility reads label and value as one element.
 class PowerHistoryChart::Statistic : public QWidget {
 public:
-    explicit Statistic(const char *labelKey) : m_label(localizedText(labelKey)), m_value(QString::fromUtf16(kAbsentText))
+    explicit Statistic(const char *labelKey) : m_label(localizedText(labelKey)), m_value(absentText())
     {
         setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         setAccessibleName(text());
@@ -289,7 +286,7 @@ void PowerHistoryChart::rebuild()
         m_valueAxis->setTickInterval(valueTicks.stepW);
     }
     m_chartView->setAccessibleDescription(QStringLiteral("%1 %2\u2013%3, %4 %5\u2013%6")
-                                              .arg(m_timeAxis->titleText(), timeOfDayText(window.start), timeOfDayText(window.end),
+                                              .arg(m_timeAxis->titleText(), markText(window.start), markText(window.end),
                                                    m_valueAxis->titleText(), QString::asprintf("%.0f", statistics.lowerW),
                                                    QString::asprintf("%.0f W", statistics.upperW)));
 
@@ -335,7 +332,7 @@ void PowerHistoryChart::updateTimeTicks(const ChartWindow &window)
     if (!ticks.times.empty())
         m_timeAxis->setStartValue(epochMilliseconds(ticks.times.front() - ticks.step));
     for (const WallTime tick : ticks.times)
-        m_timeAxis->append(timeOfDayText(tick), epochMilliseconds(tick));
+        m_timeAxis->append(markText(tick), epochMilliseconds(tick));
     m_timeTicks = std::move(ticks.times);
 }
 

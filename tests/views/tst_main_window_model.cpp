@@ -1,5 +1,6 @@
 #include "app/text_table.h"
 #include "model/localized_text.h"
+#include "model/value_text.h"
 #include "views/main_window_model.h"
 #include "views/power_history_chart_model.h"
 
