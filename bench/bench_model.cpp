@@ -1,4 +1,4 @@
-#include "model/metrics_exposition.h"
+#include "export/metrics_exposition.h"
 #include "model/power_history.h"
 #include "model/power_snapshot.h"
 

@@ -1,17 +1,17 @@
 #include "app/app_settings.h"
 #include "app/machine_source.h"
-#include "app/platform_services.h"
 #include "app/terminal_view.h"
 #include "app/text_table.h"
-#include "model/snapshot_json.h"
-#include "metrics_server.h"
+#include "export/http_request.h"
+#include "export/snapshot_json.h"
+#include "platform/native_machine.h"
+#include "serve_command.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QTextStream>
 #include <QThread>
-
 
 using namespace ferrow;
 
@@ -83,12 +83,7 @@ int main(int argc, char *argv[])
             err << "ferrow-cli: " << error << '\n';
             return 1;
         }
-#if defined(Q_OS_LINUX)
-        const char *readBack = "sysfs:";
-#else
-        const char *readBack = "recorded:";
-#endif
-        QTextStream(stdout) << "Recorded into " << parser.value(recordOption) << "; read it back with --source " << readBack
+        QTextStream(stdout) << "Recorded into " << parser.value(recordOption) << "; read it back with --source " << recordingSourcePrefix()
                             << parser.value(recordOption) << Qt::endl;
         return 0;
     }

@@ -2,11 +2,11 @@
 
 #include "app/app_settings.h"
 #include "app/menu_bar_label.h"
-#include "app/platform_services.h"
 #include "app/popover_placement.h"
 #include "model/localized_text.h"
 #include "monitor/power_monitor.h"
 #include "monitor/sleep_wake_notifier.h"
+#include "platform/native_desktop.h"
 #include "views/dashboard_view.h"
 #include "views/main_window_view.h"
 #include "views/view_painting.h"
@@ -191,7 +191,7 @@ void ApplicationShell::updateTrayItem()
         return;
     const PowerSnapshot &snapshot = m_monitor->snapshot();
     const QString figure = menuBarFigureText(snapshot) + QStringLiteral(" \u00B7 ") + snapshot.statusText();
-    m_menuBarItem->showReading(snapshot, m_showPower, localizedFormatText(m_readsSimulation ? "tray.tooltip_simulated" : "tray.tooltip", figure));
+    m_menuBarItem->showReading(menuBarReading(snapshot, m_showPower, localizedFormatText(m_readsSimulation ? "tray.tooltip_simulated" : "tray.tooltip", figure)));
 }
 
 void ApplicationShell::togglePopover()

@@ -2,7 +2,7 @@
 
 #include "app/app_services.h"
 #include "app/machine_source.h"
-#include "app/menu_bar_item.h"
+#include "platform/menu_bar_item.h"
 #include "views/ferrow_palette.h"
 
 #include <QElapsedTimer>

@@ -1,25 +1,12 @@
 #include "app/machine_source.h"
 
+#include "platform/native_machine.h"
 #include "platform/recorded/recorded_machine.h"
 #include "platform/simulated/simulated_machine.h"
 #include "sources/mac_source_diagnosis.h"
 #include "sources/power_sensor_reader.h"
 
 #include <QSettings>
-
-#if defined(Q_OS_MACOS)
-#include "platform/macos/mac_machine.h"
-#include "platform/recorded/recording_writer.h"
-
-#include <QThread>
-#elif defined(Q_OS_LINUX)
-#include "platform/common/in_memory_key_value_store.h"
-#include "platform/common/settings_key_value_store.h"
-#include "platform/linux/linux_diagnosis.h"
-#include "platform/linux/linux_power_reader.h"
-
-#include <QFile>
-#endif
 
 namespace ferrow {
 
@@ -40,7 +27,10 @@ std::optional<MachineSource> MachineSource::parse(const QString &text)
 
 namespace {
 
-// A machine read through the Mac's own sources: the Mac itself, or one that reproduces a Mac.
+const char *const kInsteadOfThisMachine = "simulated notebook (this machine shows no battery, power supply or power sensor)";
+
+// A machine read through the Mac's own sources that is not this machine: a simulation or a
+// recording.
 struct MacSources {
     std::unique_ptr<MachinePlatform> platform;
     QString description;
@@ -59,20 +49,12 @@ std::optional<MacSources> openMacSources(const MachineSource &source, QString *e
     };
     switch (source.kind) {
     case MachineSource::Kind::automatic:
-#if defined(Q_OS_MACOS)
-        return MacSources{std::make_unique<MacMachine>(), QStringLiteral("this Mac")};
-#else
-        return simulated(Kind::notebook, "simulated notebook (this machine shows no battery, power supply or power sensor)",
-                         "app.menu_subtitle_simulated");
-#endif
+        return simulated(Kind::notebook, kInsteadOfThisMachine, "app.menu_subtitle_simulated");
     case MachineSource::Kind::simulatedNotebook:
         return simulated(Kind::notebook, "simulated notebook", "app.menu_subtitle_simulated");
     case MachineSource::Kind::simulatedDesktop:
         return simulated(Kind::desktop, "simulated desktop", "app.menu_subtitle_simulated_desktop");
     case MachineSource::Kind::sysfsTree:
-        if (error)
-            *error = QStringLiteral("sysfs:%1: copied Linux trees are read by Linux builds only").arg(source.recordingPath);
-        return std::nullopt;
     case MachineSource::Kind::recorded:
         break;
     }
@@ -83,67 +65,15 @@ std::optional<MacSources> openMacSources(const MachineSource &source, QString *e
     return MacSources{std::make_unique<RecordedMachine>(std::move(*recording)), QStringLiteral("recording of ") + description, false, false};
 }
 
-#if defined(Q_OS_LINUX)
-bool isCopiedTree(const QString &root, QString *error)
+OpenedMachine openedFrom(NativeMachine native)
 {
-    if (QFile::exists(root + QStringLiteral("/sys/class")))
-        return true;
-    if (error)
-        *error = QStringLiteral("%1: no sys/class folder in it, so not a copied tree").arg(root);
-    return false;
-}
-
-// This machine when it has anything to read, or a copied tree (read in real time, as a machine,
-// so that a graphics card's recorded power integrates as it would live; a copy's battery extremes
-// stay out of the user's own). Nothing where this machine has nothing.
-std::optional<OpenedMachine> openLinuxMachine(const MachineSource &source, QString *error, bool *isLinux)
-{
-    *isLinux = false;
-    std::unique_ptr<LinuxPowerReader> reader;
-    QString description;
-    if (source.kind == MachineSource::Kind::automatic) {
-        reader = std::make_unique<LinuxPowerReader>(std::make_unique<SysfsFiles>(), std::make_unique<SettingsKeyValueStore>());
-        if (!reader->hasPowerSources())
-            return std::nullopt;
-        description = QStringLiteral("this Linux machine");
-    } else if (source.kind == MachineSource::Kind::sysfsTree) {
-        *isLinux = true;
-        if (!isCopiedTree(source.recordingPath, error))
-            return std::nullopt;
-        reader = std::make_unique<LinuxPowerReader>(std::make_unique<SysfsFiles>(QFile::encodeName(source.recordingPath).toStdString()),
-                                                    std::make_unique<InMemoryKeyValueStore>());
-        description = QStringLiteral("copied tree at ") + source.recordingPath;
-    } else {
-        return std::nullopt;
-    }
-    *isLinux = true;
-    OpenedMachine opened{nullptr, std::move(description)};
-    opened.chipPowerNeedsPermission = reader->chipPowerNeedsPermission();
-    opened.reader = std::move(reader);
+    OpenedMachine opened{std::move(native.reader), std::move(native.description)};
+    opened.chipPowerNeedsPermission = native.chipPowerNeedsPermission;
     return opened;
 }
-#endif
 
-} // namespace
-
-std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *error)
-{
-#if defined(Q_OS_LINUX)
-    bool isLinux = false;
-    if (std::optional<OpenedMachine> opened = openLinuxMachine(source, error, &isLinux); opened || isLinux)
-        return opened;
-#endif
-    std::optional<MacSources> mac = openMacSources(source, error);
-    if (!mac)
-        return std::nullopt;
-    return OpenedMachine{std::make_unique<PowerSensorReader>(std::move(mac->platform)), std::move(mac->description), mac->isSimulated,
-                         mac->runsInRealTime, mac->subtitleKey};
-}
-
-namespace {
-
-// What is read, and for this machine where its battery's lifetime extremes are kept (a copy,
-// a recording or a simulation keeps them in memory only).
+// What is read, and for this machine where its preferences (and so its battery's lifetime
+// extremes) are kept; a copy, a recording or a simulation keeps them in memory only.
 DiagnosisSection programSection(const QString &reads, bool thisMachine)
 {
     DiagnosisSection section{QStringLiteral("Ferrow"), {}};
@@ -161,31 +91,39 @@ Diagnosis joined(DiagnosisSection first, Diagnosis rest)
 
 } // namespace
 
+std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *error)
+{
+    if (source.kind == MachineSource::Kind::automatic) {
+        if (std::optional<NativeMachine> native = openThisMachine())
+            return openedFrom(std::move(*native));
+    } else if (source.kind == MachineSource::Kind::sysfsTree) {
+        std::optional<NativeMachine> native = openCopiedMachine(source.recordingPath, error);
+        return native ? std::optional(openedFrom(std::move(*native))) : std::nullopt;
+    }
+    std::optional<MacSources> mac = openMacSources(source, error);
+    if (!mac)
+        return std::nullopt;
+    return OpenedMachine{std::make_unique<PowerSensorReader>(std::move(mac->platform)), std::move(mac->description), mac->isSimulated,
+                         mac->runsInRealTime, mac->subtitleKey};
+}
+
 std::optional<Diagnosis> diagnoseMachine(const MachineSource &source, QString *error)
 {
-#if defined(Q_OS_MACOS)
     if (source.kind == MachineSource::Kind::automatic) {
-        MacMachine machine;
-        return joined(programSection(QStringLiteral("this Mac"), true), machine.diagnose());
+        // What this machine answers even when it has nothing to read: that is what a report needs.
+        std::optional<NativeMachine> native = openThisMachine();
+        const QString reads = native ? native->description : QString::fromLatin1(kInsteadOfThisMachine);
+        native.reset(); // the diagnosis asks the machine afresh, with no reader holding it open
+        DiagnosisSection program = programSection(reads, true);
+        Diagnosis machine = diagnoseThisMachine(program);
+        return joined(std::move(program), std::move(machine));
     }
-#elif defined(Q_OS_LINUX)
-    if (source.kind == MachineSource::Kind::automatic || source.kind == MachineSource::Kind::sysfsTree) {
-        const bool thisMachine = source.kind == MachineSource::Kind::automatic;
-        const QString root = thisMachine ? QStringLiteral("/") : source.recordingPath;
-        if (!thisMachine && !isCopiedTree(root, error))
+    if (source.kind == MachineSource::Kind::sysfsTree) {
+        std::optional<Diagnosis> copy = diagnoseCopiedMachine(source.recordingPath, error);
+        if (!copy)
             return std::nullopt;
-        DiagnosisSection program = programSection(thisMachine ? QStringLiteral("this Linux machine") : QStringLiteral("copied tree at ") + root, thisMachine);
-        if (thisMachine) {
-            QFile release(QStringLiteral("/proc/sys/kernel/osrelease"));
-            if (release.open(QIODevice::ReadOnly))
-                program.add(QStringLiteral("kernel"), QString::fromUtf8(release.readAll().trimmed()));
-            else
-                program.absent(QStringLiteral("kernel"), QStringLiteral("unreadable"));
-        }
-        SysfsFiles files(QFile::encodeName(root).toStdString());
-        return joined(std::move(program), diagnoseLinuxTree(files));
+        return joined(programSection(QStringLiteral("copied tree at ") + source.recordingPath, false), std::move(*copy));
     }
-#endif
     std::optional<MacSources> machine = openMacSources(source, error);
     if (!machine)
         return std::nullopt;
@@ -194,17 +132,7 @@ std::optional<Diagnosis> diagnoseMachine(const MachineSource &source, QString *e
 
 bool recordMachine(const QString &folder, QString *error)
 {
-#if defined(Q_OS_MACOS)
-    MacMachine machine;
-    return writeRecording(machine, MacMachine::modelAndSystem(), [] { QThread::sleep(1); }, folder, error);
-#elif defined(Q_OS_LINUX)
-    return recordSysfsTree("/", folder, error);
-#else
-    Q_UNUSED(folder);
-    if (error)
-        *error = QStringLiteral("recording is built for Linux and macOS only");
-    return false;
-#endif
+    return recordThisMachine(folder, error);
 }
 
 } // namespace ferrow

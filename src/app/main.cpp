@@ -2,9 +2,11 @@
 #include "app/app_settings.h"
 #include "app/application_shell.h"
 #include "app/machine_source.h"
-#include "app/platform_services.h"
+#include "app/tray_menu_bar_item.h"
 #include "app/terminal_view.h"
 #include "app/text_table.h"
+#include "platform/native_desktop.h"
+#include "platform/native_machine.h"
 
 #include <QApplication>
 #include <QTextStream>
@@ -13,16 +15,6 @@
 using namespace ferrow;
 
 namespace {
-
-bool hasDisplay()
-{
-#if defined(Q_OS_LINUX)
-    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("DISPLAY")
-        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-#else
-    return true;
-#endif
-}
 
 void nameApplication()
 {

@@ -37,13 +37,24 @@ QString trayIconFigure(std::optional<double> powerW)
     return QString::asprintf(std::fabs(*powerW) < 9.95 ? "%.1f" : "%.0f", *powerW);
 }
 
+MenuBarReading menuBarReading(const PowerSnapshot &snapshot, bool showPower, const QString &toolTip)
+{
+    return {snapshot.isExternalConnected, snapshot.displayPowerW(), menuBarFigureText(snapshot), showPower, toolTip};
+}
+
 QIcon renderTrayIcon(const PowerSnapshot &snapshot, bool showPower)
+{
+    return renderTrayIcon(menuBarReading(snapshot, showPower, QString()));
+}
+
+QIcon renderTrayIcon(const MenuBarReading &reading)
 {
     // Panels are light or dark and Qt cannot tell which, so the icon brings its own ground: a dark
     // tile with white content reads on both.
     const QColor tile(28, 28, 32, 235);
     const QColor ink(Qt::white);
-    const QString figure = trayIconFigure(snapshot.displayPowerW());
+    const QString figure = trayIconFigure(reading.powerW);
+    const Glyph glyph = reading.onExternalPower ? Glyph::bolt : Glyph::battery;
     QIcon icon;
     for (const int side : {16, 22, 24, 32, 48}) { // what panels ask for; larger ones cost fills for nothing
         QPixmap pixmap(side, side);
@@ -56,10 +67,10 @@ QIcon renderTrayIcon(const PowerSnapshot &snapshot, bool showPower)
             shape.addRoundedRect(box, side * 0.22, side * 0.22);
             ground.fillPath(shape, tile);
         }));
-        if (!showPower) {
-            paintGlyph(painter, menuBarGlyph(snapshot), box.adjusted(side * 0.18, side * 0.18, -side * 0.18, -side * 0.18), ink);
+        if (!reading.showsPower) {
+            paintGlyph(painter, glyph, box.adjusted(side * 0.18, side * 0.18, -side * 0.18, -side * 0.18), ink);
         } else {
-            paintGlyph(painter, menuBarGlyph(snapshot), QRectF(side * 0.27, side * 0.05, side * 0.46, side * 0.38), ink);
+            paintGlyph(painter, glyph, QRectF(side * 0.27, side * 0.05, side * 0.46, side * 0.38), ink);
             // The largest figure that fits the width, with its unit where there is room for it.
             const double width = side * 0.92;
             QFont font = uiFont(1, QFont::Bold);

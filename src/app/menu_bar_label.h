@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/power_snapshot.h"
+#include "platform/menu_bar_item.h"
 #include "views/glyphs.h"
 
 #include <QIcon>
@@ -16,6 +17,9 @@ QString menuBarFigureText(const PowerSnapshot &snapshot);
 QString trayIconFigure(std::optional<double> powerW);
 // A tray icon legible on light and dark panels: the glyph alone, or the figure (with its unit
 // where it fits) under a small glyph.
+QIcon renderTrayIcon(const MenuBarReading &reading);
 QIcon renderTrayIcon(const PowerSnapshot &snapshot, bool showPower);
+// What the menu-bar item shows of snapshot.
+MenuBarReading menuBarReading(const PowerSnapshot &snapshot, bool showPower, const QString &toolTip);
 
 } // namespace ferrow

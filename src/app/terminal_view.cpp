@@ -1,15 +1,14 @@
 #include "app/terminal_view.h"
 
-#include "model/snapshot_json.h"
+#include "export/snapshot_json.h"
 #include "model/value_text.h"
+#include "platform/native_machine.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QJsonDocument>
 #include <QTextStream>
 #include <QTimer>
-
-#include <csignal>
 
 namespace ferrow {
 
@@ -35,8 +34,7 @@ int runTerminalView(SnapshotReader &reader, bool json, QTextStream &out)
         else
             out << readingSummaryLine(snapshot) << Qt::endl;
     };
-    std::signal(SIGINT, [](int) { QCoreApplication::quit(); });
-    std::signal(SIGTERM, [](int) { QCoreApplication::quit(); });
+    quitOnInterruptSignal();
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, print);
     print();

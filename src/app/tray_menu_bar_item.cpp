@@ -2,6 +2,7 @@
 
 #include "app/menu_bar_label.h"
 #include "model/localized_text.h"
+#include "platform/native_desktop.h"
 
 #include <QCoreApplication>
 
@@ -19,17 +20,26 @@ TrayMenuBarItem::TrayMenuBarItem()
     });
 }
 
-void TrayMenuBarItem::showReading(const PowerSnapshot &snapshot, bool showPower, const QString &toolTip)
+void TrayMenuBarItem::showReading(const MenuBarReading &reading)
 {
-    const QString icon = QStringLiteral("%1|%2").arg(int(menuBarGlyph(snapshot))).arg(showPower ? trayIconFigure(snapshot.displayPowerW()) : QString());
+    const QString icon = QStringLiteral("%1|%2").arg(int(reading.onExternalPower)).arg(reading.showsPower ? trayIconFigure(reading.powerW) : QString());
     if (icon != m_shownIcon) {
-        m_tray.setIcon(renderTrayIcon(snapshot, showPower));
+        m_tray.setIcon(renderTrayIcon(reading));
         m_shownIcon = icon;
     }
-    if (toolTip != m_tray.toolTip())
-        m_tray.setToolTip(toolTip);
+    if (reading.toolTip != m_tray.toolTip())
+        m_tray.setToolTip(reading.toolTip);
     if (!m_tray.isVisible())
         m_tray.show();
+}
+
+std::unique_ptr<MenuBarItem> createMenuBarItem()
+{
+    if (std::unique_ptr<MenuBarItem> native = createNativeMenuBarItem())
+        return native;
+    if (!QSystemTrayIcon::isSystemTrayAvailable())
+        return nullptr;
+    return std::make_unique<TrayMenuBarItem>();
 }
 
 } // namespace ferrow

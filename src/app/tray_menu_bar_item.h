@@ -1,9 +1,11 @@
 #pragma once
 
-#include "app/menu_bar_item.h"
+#include "platform/menu_bar_item.h"
 
 #include <QMenu>
 #include <QSystemTrayIcon>
+
+#include <memory>
 
 namespace ferrow {
 
@@ -13,7 +15,7 @@ class TrayMenuBarItem final : public MenuBarItem {
 public:
     TrayMenuBarItem();
 
-    void showReading(const PowerSnapshot &snapshot, bool showPower, const QString &toolTip) override;
+    void showReading(const MenuBarReading &reading) override;
     QRect geometry() const override { return m_tray.geometry(); }
 
 private:
@@ -21,5 +23,8 @@ private:
     QSystemTrayIcon m_tray;
     QString m_shownIcon; // what the icon shows now; it is redrawn only when that changes
 };
+
+// The system's own menu-bar item, else this tray icon where the desktop has a tray; else nothing.
+std::unique_ptr<MenuBarItem> createMenuBarItem();
 
 } // namespace ferrow

@@ -1,6 +1,7 @@
-#include "model/snapshot_json.h"
+#include "export/snapshot_json.h"
 #include "platform/common/in_memory_key_value_store.h"
 #include "platform/linux/linux_power_reader.h"
+#include "platform/native_machine.h"
 #include "support/json_compare.h"
 #include "support/json_rows.h"
 
@@ -9,6 +10,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+
+#include <csignal>
 
 using namespace ferrow;
 using namespace ferrow::testing;
@@ -153,6 +157,21 @@ private slots:
         replayed.remove(QStringLiteral("updatedAt"));
         QCOMPARE(replayed, original);
         QVERIFY(!recordSysfsTree((kFixtures + fixture).toStdString(), copy, &error)); // into a folder already used
+    }
+
+    // The handler only writes to a pipe; the event loop quits when it reads it. Twice: a second
+    // install must not break the first.
+    void interruptQuitsTheEventLoop()
+    {
+        quitOnInterruptSignal();
+        quitOnInterruptSignal();
+        for (const int signal : {SIGINT, SIGTERM}) {
+            QTimer::singleShot(0, [signal] { ::raise(signal); });
+            QTimer giveUp;
+            QObject::connect(&giveUp, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+            giveUp.start(5000);
+            QCOMPARE(QCoreApplication::exec(), 0);
+        }
     }
 };
 

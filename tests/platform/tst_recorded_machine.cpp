@@ -1,4 +1,4 @@
-#include "model/snapshot_json.h"
+#include "export/snapshot_json.h"
 #include "platform/recorded/property_list_parser.h"
 #include "platform/recorded/property_list_writer.h"
 #include "platform/recorded/recorded_machine.h"

@@ -1,4 +1,4 @@
-#include "model/snapshot_json.h"
+#include "export/snapshot_json.h"
 #include "platform/recorded/property_list_parser.h"
 #include "sources/power_sensor_reader.h"
 #include "support/fake_machine.h"

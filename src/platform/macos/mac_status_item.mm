@@ -1,6 +1,4 @@
-#include "app/macos/mac_status_item.h"
-
-#include "app/menu_bar_label.h"
+#include "platform/macos/mac_status_item.h"
 
 #import <AppKit/AppKit.h>
 
@@ -43,17 +41,17 @@ MacStatusItem::~MacStatusItem()
     [NSStatusBar.systemStatusBar removeStatusItem:m_native->item];
 }
 
-void MacStatusItem::showReading(const PowerSnapshot &snapshot, bool showPower, const QString &toolTip)
+void MacStatusItem::showReading(const MenuBarReading &reading)
 {
     NSStatusBarButton *button = m_native->item.button;
-    NSString *symbol = snapshot.isExternalConnected ? @"bolt.fill" : @"battery.50percent";
+    NSString *symbol = reading.onExternalPower ? @"bolt.fill" : @"battery.50percent";
     NSImage *image = [NSImage imageWithSystemSymbolName:symbol accessibilityDescription:nil];
     [image setTemplate:YES]; // the menu bar recolours it for its appearance
     button.image = image;
     // A plain title in the button's font: the system then colours it for the menu bar's
     // appearance and dims it on an inactive display, as it does every status item.
-    button.title = showPower ? menuBarFigureText(snapshot).toNSString() : @"";
-    button.toolTip = toolTip.toNSString();
+    button.title = reading.showsPower ? reading.figureText.toNSString() : @"";
+    button.toolTip = reading.toolTip.toNSString();
 }
 
 QRect MacStatusItem::geometry() const

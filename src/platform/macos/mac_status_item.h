@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/menu_bar_item.h"
+#include "platform/menu_bar_item.h"
 
 #include <memory>
 
@@ -13,7 +13,7 @@ public:
     MacStatusItem();
     ~MacStatusItem() override;
 
-    void showReading(const PowerSnapshot &snapshot, bool showPower, const QString &toolTip) override;
+    void showReading(const MenuBarReading &reading) override;
     QRect geometry() const override;
 
     void notifyClicked() { emit activated(); }

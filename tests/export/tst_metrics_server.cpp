@@ -1,4 +1,4 @@
-#include "metrics_server.h"
+#include "export/metrics_server.h"
 
 #include <QTest>
 

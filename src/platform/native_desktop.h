@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/app_services.h"
-#include "app/menu_bar_item.h"
 #include "monitor/sleep_wake_notifier.h"
+#include "platform/login_item.h"
+#include "platform/menu_bar_item.h"
 
 #include <QString>
 
@@ -14,24 +14,28 @@ class QWidget;
 
 namespace ferrow {
 
-// The services whose implementation depends on the platform, chosen here and nowhere else.
+// The services of a desktop session that differ per operating system. Each backend under
+// platform/ (macos, linux, null) defines these functions; the application links exactly one.
 
-std::unique_ptr<MenuBarItem> createMenuBarItem(); // nothing where the desktop has no tray
+// The system's own menu-bar item; nothing where the toolkit's tray icon is the way.
+std::unique_ptr<MenuBarItem> createNativeMenuBarItem();
 std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier();
 std::unique_ptr<LoginItem> createLoginItem();
-// The version a user sees, from the bundle on macOS and the build elsewhere.
-QString applicationVersionText();
+
+// The short version and the build number the installed application declares, where it declares
+// them (a Mac bundle's Info.plist); else the build's own version and no build number.
+struct DeclaredVersions {
+    std::optional<QString> shortVersion;
+    std::optional<QString> build;
+};
+DeclaredVersions declaredVersions();
+
 // The system's reduce-motion accessibility setting, where the platform has one.
 std::optional<bool> systemReducesMotion();
-// Settings of the windowing system that must be made before the application object exists.
-void prepareEnvironment();
 // Makes the process a regular application, where the platform distinguishes.
 void prepareApplication();
 // Brings the application to the front, even while another application is active.
 void bringApplicationToFront();
-// Keeps the once-a-second timer on its pace for as long as the result lives: macOS naps an app
-// with no window in front and stretches its timers. Nothing to hold elsewhere.
-std::shared_ptr<const void> keepTimersOnPace();
 // Calls handler when the user opens the running application again (its Dock icon), where the
 // platform has such a gesture.
 void onApplicationReopen(std::function<void()> handler);

@@ -1,4 +1,4 @@
-#include "model/snapshot_json.h"
+#include "export/snapshot_json.h"
 
 #include <QDateTime>
 #include <QJsonArray>

@@ -1,4 +1,7 @@
-#include "app/macos/mac_app_services.h"
+#include "platform/native_desktop.h"
+
+#include "platform/macos/mac_status_item.h"
+#include "platform/macos/workspace_sleep_notifier.h"
 
 #include <QWidget>
 
@@ -37,6 +40,14 @@ bool runsWhereLoginItemsAreRefused()
     const bool inApplications = [path hasPrefix:@"/Applications/"] || [path hasPrefix:userApplications];
     return quarantined && !inApplications;
 }
+
+// Launch at login as the application's own login item (SMAppService).
+class MainAppLoginItem final : public LoginItem {
+public:
+    LoginItemState state() const override;
+    bool setEnabled(bool enabled) override;
+    void openSettingsForState() override;
+};
 
 } // namespace
 
@@ -77,7 +88,22 @@ void MainAppLoginItem::openSettingsForState()
     }
 }
 
-std::pair<std::optional<QString>, std::optional<QString>> bundleVersions()
+std::unique_ptr<MenuBarItem> createNativeMenuBarItem()
+{
+    return std::make_unique<MacStatusItem>();
+}
+
+std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
+{
+    return std::make_unique<WorkspaceSleepNotifier>();
+}
+
+std::unique_ptr<LoginItem> createLoginItem()
+{
+    return std::make_unique<MainAppLoginItem>();
+}
+
+DeclaredVersions declaredVersions()
 {
     NSDictionary *info = NSBundle.mainBundle.infoDictionary;
     const auto text = [info](NSString *key) -> std::optional<QString> {
@@ -89,17 +115,17 @@ std::pair<std::optional<QString>, std::optional<QString>> bundleVersions()
     return {text(@"CFBundleShortVersionString"), text(@"CFBundleVersion")};
 }
 
-bool reducesMotion()
+std::optional<bool> systemReducesMotion()
 {
     return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceMotion;
 }
 
-void setRegularActivationPolicy()
+void prepareApplication()
 {
     [NSApp setActivationPolicy:NSApplicationActivationPolicyRegular];
 }
 
-void activateApplication()
+void bringApplicationToFront()
 {
     if (@available(macOS 14.0, *))
         [NSApp activate];
@@ -107,7 +133,7 @@ void activateApplication()
         [NSApp activateIgnoringOtherApps:YES];
 }
 
-void installReopenHandler(std::function<void()> handler)
+void onApplicationReopen(std::function<void()> handler)
 {
     // The reopen event ('aevt'/'rapp') is what the Dock sends; handled here, it no longer reaches
     // the toolkit's delegate, which would only activate the application.
@@ -119,13 +145,13 @@ void installReopenHandler(std::function<void()> handler)
                                                       andEventID:kAEReopenApplication];
 }
 
-void putPopoverMaterialBehind(QWidget &window)
+bool usePopoverMaterial(QWidget &window)
 {
     window.setAttribute(Qt::WA_TranslucentBackground);
     NSView *content = (__bridge NSView *)reinterpret_cast<void *>(window.winId());
     NSWindow *nativeWindow = content.window;
     if (!nativeWindow || !content.superview)
-        return;
+        return false;
     nativeWindow.opaque = NO;
     nativeWindow.backgroundColor = NSColor.clearColor;
     nativeWindow.hasShadow = YES;
@@ -149,6 +175,7 @@ void putPopoverMaterialBehind(QWidget &window)
     mask.resizingMode = NSImageResizingModeStretch;
     effect.maskImage = mask;
     [content.superview addSubview:effect positioned:NSWindowBelow relativeTo:content];
+    return true;
 }
 
 } // namespace ferrow

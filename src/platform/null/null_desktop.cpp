@@ -1,0 +1,61 @@
+#include "platform/native_desktop.h"
+
+#include <QCoreApplication>
+
+// A desktop this program has no backend for: the toolkit's tray icon where there is a tray, no
+// sleep or wake signals, and a login item that is never on.
+
+namespace ferrow {
+namespace {
+
+class NoLoginItem final : public LoginItem {
+public:
+    LoginItemState state() const override { return LoginItemState::disabled; }
+    bool setEnabled(bool enabled) override { return !enabled; }
+};
+
+} // namespace
+
+std::unique_ptr<MenuBarItem> createNativeMenuBarItem()
+{
+    return nullptr;
+}
+
+std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
+{
+    return std::make_unique<SleepWakeNotifier>();
+}
+
+std::unique_ptr<LoginItem> createLoginItem()
+{
+    return std::make_unique<NoLoginItem>();
+}
+
+DeclaredVersions declaredVersions()
+{
+    return {QCoreApplication::applicationVersion(), std::nullopt};
+}
+
+std::optional<bool> systemReducesMotion()
+{
+    return std::nullopt;
+}
+
+void prepareApplication()
+{
+}
+
+void bringApplicationToFront()
+{
+}
+
+void onApplicationReopen(std::function<void()>)
+{
+}
+
+bool usePopoverMaterial(QWidget &)
+{
+    return false;
+}
+
+} // namespace ferrow

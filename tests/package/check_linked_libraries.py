@@ -1,0 +1,25 @@
+#!/usr/bin/env python3
+"""Fails when a program names any of the given libraries among the ones it needs (ELF NEEDED)."""
+import subprocess
+import sys
+
+
+def needed(program):
+    out = subprocess.run(["readelf", "-d", program], check=True, capture_output=True, text=True).stdout
+    return [line.split("[", 1)[1].rstrip("]") for line in out.splitlines() if "(NEEDED)" in line]
+
+
+def main():
+    program, forbidden = sys.argv[1], sys.argv[2:]
+    libraries = needed(program)
+    found = [lib for lib in libraries if any(lib.startswith("lib" + name + ".") for name in forbidden)]
+    print(f"{program} needs: {', '.join(libraries)}")
+    if found:
+        print(f"FAIL: it should not need {', '.join(found)}")
+        return 1
+    print("ok: none of " + ", ".join(forbidden))
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
