@@ -2,7 +2,33 @@
 
 #include <QCoreApplication>
 
+#include <array>
+#include <utility>
+
 namespace ferrow {
+namespace {
+
+const std::array<std::pair<Appearance, QStringView>, 3> kAppearances{{
+    {Appearance::system, u"system"},
+    {Appearance::light, u"light"},
+    {Appearance::dark, u"dark"},
+}};
+
+void readBool(const QSettings &settings, const QString &key, bool &value)
+{
+    const QVariant stored = settings.value(key);
+    if (stored.typeId() == QMetaType::Bool) {
+        value = stored.toBool();
+        return;
+    }
+    const QString text = stored.toString().trimmed().toLower();
+    if (text == u"true" || text == u"1")
+        value = true;
+    else if (text == u"false" || text == u"0")
+        value = false;
+}
+
+} // namespace
 
 void setApplicationIdentity()
 {
@@ -11,17 +37,27 @@ void setApplicationIdentity()
     QCoreApplication::setOrganizationDomain(QStringLiteral("ferrow.app"));
 }
 
-bool readBoolSetting(const QSettings &settings, const QString &key, bool defaultValue)
+Preferences readPreferences(const QSettings &settings)
 {
-    const QVariant value = settings.value(key);
-    if (value.typeId() == QMetaType::Bool)
-        return value.toBool();
-    const QString text = value.toString().trimmed().toLower();
-    if (text == u"true" || text == u"1")
-        return true;
-    if (text == u"false" || text == u"0")
-        return false;
-    return defaultValue;
+    Preferences preferences;
+    readBool(settings, PreferenceKey::showPowerInMenuBar, preferences.showPowerInMenuBar);
+    readBool(settings, PreferenceKey::reduceMotion, preferences.reduceMotion);
+    const QString appearance = settings.value(PreferenceKey::appearance).toString().trimmed().toLower();
+    for (const auto &[value, name] : kAppearances) {
+        if (appearance == name)
+            preferences.appearance = value;
+    }
+    return preferences;
+}
+
+void writePreferences(QSettings &settings, const Preferences &preferences)
+{
+    settings.setValue(PreferenceKey::showPowerInMenuBar, preferences.showPowerInMenuBar);
+    settings.setValue(PreferenceKey::reduceMotion, preferences.reduceMotion);
+    for (const auto &[value, name] : kAppearances) {
+        if (value == preferences.appearance)
+            settings.setValue(PreferenceKey::appearance, name.toString());
+    }
 }
 
 } // namespace ferrow

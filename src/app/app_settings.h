@@ -5,15 +5,28 @@
 
 namespace ferrow {
 
-// Every preference the application keeps, with its default. Values someone else wrote into the
-// file are read defensively: anything that is not clearly a boolean gives the default.
-namespace AppSetting {
-inline const QString showPowerInMenuBar = QStringLiteral("showPowerInMenuBar"); // default true
-inline const QString reduceMotion = QStringLiteral("reduceMotion");             // default false
-inline const QString appearance = QStringLiteral("appearance");                 // "system" (default), "light", "dark"
-} // namespace AppSetting
+enum class Appearance { system, light, dark };
 
-bool readBoolSetting(const QSettings &settings, const QString &key, bool defaultValue);
+// Every preference the programs keep, each with its type and its default.
+struct Preferences {
+    bool showPowerInMenuBar = true;
+    bool reduceMotion = false; // where the system has no setting of its own
+    Appearance appearance = Appearance::system;
+
+    bool operator==(const Preferences &) const = default;
+};
+
+// The names they are stored under.
+namespace PreferenceKey {
+inline const QString showPowerInMenuBar = QStringLiteral("showPowerInMenuBar");
+inline const QString reduceMotion = QStringLiteral("reduceMotion");
+inline const QString appearance = QStringLiteral("appearance"); // "system", "light" or "dark"
+} // namespace PreferenceKey
+
+// Values someone else wrote into the file are read defensively: anything that is not clearly of
+// the preference's type gives its default.
+Preferences readPreferences(const QSettings &settings);
+void writePreferences(QSettings &settings, const Preferences &preferences);
 
 // The names preferences are stored under (the defaults domain app.ferrow.Ferrow on macOS,
 // ~/.config/Ferrow/Ferrow.conf on Linux): the application and ferrow-cli share them, so both

@@ -33,9 +33,9 @@ ColorScheme systemColorScheme()
 }
 
 // The platform's own setting where there is one; the preference otherwise.
-bool reducesMotion(const QSettings &settings)
+bool reducesMotion(const Preferences &preferences)
 {
-    return systemReducesMotion().value_or(readBoolSetting(settings, AppSetting::reduceMotion, false));
+    return systemReducesMotion().value_or(preferences.reduceMotion);
 }
 
 } // namespace
@@ -45,7 +45,6 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     : QObject(parent)
     , m_readsSimulation(machine.isSimulated)
     , m_chipPowerNeedsPermission(machine.chipPowerNeedsPermission)
-    , m_showPower(readBoolSetting(m_settings, AppSetting::showPowerInMenuBar, true))
     , m_sleepWake(std::move(sleepWake))
     , m_loginItem(std::move(loginItem))
     , m_monitor(std::make_unique<PowerMonitor>(std::move(machine.reader), m_sleepWake.get()))
@@ -76,14 +75,16 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
 
     m_dashboard->setSubtitle(localizedText(machine.subtitleKey));
     m_dashboard->setVersion(applicationVersionText());
-    m_dashboard->setShowPowerInMenuBar(m_showPower);
+    const Preferences preferences = readPreferences(m_settings);
+    m_dashboard->setShowPowerInMenuBar(preferences.showPowerInMenuBar);
     showLoginItemState();
-    m_dashboard->setReduceMotion(reducesMotion(m_settings));
+    m_dashboard->setReduceMotion(reducesMotion(preferences));
     connect(m_dashboard, &DashboardView::detailsRequested, this, &ApplicationShell::openMainWindow);
 
     connect(m_dashboard, &DashboardView::showPowerInMenuBarToggled, this, [this](bool shown) {
-        m_showPower = shown;
-        m_settings.setValue(AppSetting::showPowerInMenuBar, shown);
+        Preferences changed = readPreferences(m_settings);
+        changed.showPowerInMenuBar = shown;
+        writePreferences(m_settings, changed);
         updateTrayItem();
     });
     connect(m_dashboard, &DashboardView::launchAtLoginToggled, this, [this](bool enabled) {
@@ -120,11 +121,14 @@ void ApplicationShell::start()
 
 FerrowPalette ApplicationShell::currentPalette() const
 {
-    const QString appearance = m_settings.value(AppSetting::appearance).toString();
-    if (appearance == u"light")
+    switch (readPreferences(m_settings).appearance) {
+    case Appearance::light:
         return {ColorScheme::light};
-    if (appearance == u"dark")
+    case Appearance::dark:
         return {ColorScheme::dark};
+    case Appearance::system:
+        break;
+    }
     return {systemColorScheme()};
 }
 
@@ -136,7 +140,7 @@ MainWindowView *ApplicationShell::openMainWindow()
         m_mainWindow->setVersion(applicationVersionText());
         if (m_chipPowerNeedsPermission)
             m_mainWindow->setPowerNotice(localizedText("power.chip_permission"));
-        m_mainWindow->setReduceMotion(reducesMotion(m_settings));
+        m_mainWindow->setReduceMotion(reducesMotion(readPreferences(m_settings)));
         m_mainWindow->setSnapshot(m_monitor->snapshot());
         m_mainWindow->setHistory(m_monitor->powerHistory());
         m_mainWindow->installEventFilter(this);
@@ -191,7 +195,7 @@ void ApplicationShell::updateTrayItem()
         return;
     const PowerSnapshot &snapshot = m_monitor->snapshot();
     const QString figure = menuBarFigureText(snapshot) + QStringLiteral(" \u00B7 ") + snapshot.statusText();
-    m_menuBarItem->showReading(menuBarReading(snapshot, m_showPower, localizedFormatText(m_readsSimulation ? "tray.tooltip_simulated" : "tray.tooltip", figure)));
+    m_menuBarItem->showReading(menuBarReading(snapshot, readPreferences(m_settings).showPowerInMenuBar, localizedFormatText(m_readsSimulation ? "tray.tooltip_simulated" : "tray.tooltip", figure)));
 }
 
 void ApplicationShell::togglePopover()

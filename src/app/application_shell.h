@@ -50,10 +50,9 @@ private:
     void applyAppearance();
     FerrowPalette currentPalette() const;
 
-    QSettings m_settings;
+    QSettings m_settings; // read when a value is needed: whatever else changed it is seen
     bool m_readsSimulation;
     bool m_chipPowerNeedsPermission;
-    bool m_showPower;
     std::unique_ptr<SleepWakeNotifier> m_sleepWake;
     std::unique_ptr<LoginItem> m_loginItem;
     std::unique_ptr<PowerMonitor> m_monitor;

@@ -132,10 +132,17 @@ private slots:
         {
             QSettings writer(file, QSettings::IniFormat);
             if (stored.isValid())
-                writer.setValue(AppSetting::showPowerInMenuBar, stored);
+                writer.setValue(PreferenceKey::showPowerInMenuBar, stored);
         }
         const QSettings reader(file, QSettings::IniFormat);
-        QCOMPARE(readBoolSetting(reader, AppSetting::showPowerInMenuBar, true), read);
+        QCOMPARE(readPreferences(reader).showPowerInMenuBar, read);
+        QCOMPARE(readPreferences(reader).appearance, Appearance::system); // absent
+
+        // What one program writes, the other reads back as it was.
+        QSettings writer(file, QSettings::IniFormat);
+        const Preferences chosen{!read, true, Appearance::dark};
+        writePreferences(writer, chosen);
+        QCOMPARE(readPreferences(writer), chosen);
     }
 };
 

@@ -94,10 +94,10 @@ private slots:
             QVERIFY(box->isChecked()); // the default
             box->click();
         }
-        QCOMPARE(QSettings().value(AppSetting::showPowerInMenuBar).toBool(), false);
+        QCOMPARE(QSettings().value(PreferenceKey::showPowerInMenuBar).toBool(), false);
         auto restarted = makeShell(false);
         QVERIFY(!restarted->dashboard()->findChild<QCheckBox *>(QStringLiteral("showPowerInMenuBar"))->isChecked());
-        QSettings().remove(AppSetting::showPowerInMenuBar);
+        QSettings().remove(PreferenceKey::showPowerInMenuBar);
     }
 
     void launchAtLoginShowsTheSystemsState_data()
