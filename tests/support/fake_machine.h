@@ -2,6 +2,7 @@
 
 #include "platform/common/in_memory_smc.h"
 #include "platform/common/self_contained_machine.h"
+#include "sources/mac_names.h"
 #include "sources/platform_interfaces.h"
 
 namespace ferrow::testing {
@@ -26,7 +27,7 @@ public:
 
     std::optional<PropertyDictionary> registryProperties(const QString &className) override
     {
-        return className == u"AppleSmartBattery" ? battery : std::nullopt;
+        return className == MacNames::batteryService ? battery : std::nullopt;
     }
     std::optional<PropertyList> powerSourceDescriptions() override
     {

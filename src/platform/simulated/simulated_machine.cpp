@@ -1,5 +1,7 @@
 #include "platform/simulated/simulated_machine.h"
 
+#include "sources/mac_names.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -101,7 +103,7 @@ std::optional<std::vector<EnergyChannelSample>> SimulatedMachine::energyChannels
 
 std::optional<PropertyDictionary> SimulatedMachine::registryProperties(const QString &className)
 {
-    if (className != u"AppleSmartBattery" || !m_model.hasBattery() || !m_batteryServicePresent)
+    if (className != MacNames::batteryService || !m_model.hasBattery() || !m_batteryServicePresent)
         return std::nullopt;
     sync();
     return batteryProperties();
@@ -196,7 +198,7 @@ bool SimulatedMachine::hasExternalPowerAdapterDetails()
 
 std::optional<CommandResult> SimulatedMachine::run(const QString &program, const QStringList &arguments)
 {
-    if (program != u"/usr/sbin/system_profiler" || arguments != QStringList{QStringLiteral("-json"), QStringLiteral("SPPowerDataType")})
+    if (program != MacNames::systemProfiler || arguments != MacNames::systemProfilerArguments)
         return std::nullopt;
     if (!m_model.hasBattery())
         return CommandResult{0, QByteArrayLiteral("{\"SPPowerDataType\":[]}")};
