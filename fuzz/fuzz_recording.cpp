@@ -1,6 +1,7 @@
 // The recorded-machine loader, then one reading of what it loaded. The input is machine.json,
 // optionally followed by a line "--battery.plist--" and the battery's property list.
 #include "platform/recorded/recorded_machine.h"
+#include "platform/recorded/recording_format.h"
 #include "sources/power_sensor_reader.h"
 
 #include <cstddef>

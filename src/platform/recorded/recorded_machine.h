@@ -2,6 +2,7 @@
 
 #include "platform/common/in_memory_smc.h"
 #include "platform/common/self_contained_machine.h"
+#include "platform/recorded/recording_format.h"
 #include "sources/platform_interfaces.h"
 
 #include <QString>
@@ -11,31 +12,9 @@
 
 namespace ferrow {
 
-// What a recording of a real Mac holds; see docs/recording-format.md.
-struct Recording {
-    struct EnergyFrame {
-        double uptimeS = 0;
-        std::vector<EnergyChannelSample> channels;
-    };
-
-    QString description;
-    int osMajorVersion = 26;
-    std::optional<PropertyDictionary> battery;
-    std::vector<std::pair<std::string, InMemorySMC::Entry>> smcKeys;
-    bool adapterDetails = false;
-    std::vector<EnergyFrame> energyFrames;
-    std::optional<PropertyList> powerSources;
-    std::optional<CommandResult> systemProfiler;
-    // The battery's stored lifetime extremes, by their preference keys, as the store wrote them.
-    std::vector<std::pair<QString, QByteArray>> preferences;
-};
-
 // Reads a recording folder: machine.json, and battery.plist unless the machine has no battery.
 // On failure the message names the file, the place in it and the problem.
 std::optional<Recording> loadRecording(const QString &folder, QString *error);
-// The same from the files' contents; the paths only name the files in messages.
-std::optional<Recording> parseRecording(const QByteArray &machineJson, const QString &machinePath,
-                                        const std::optional<QByteArray> &batteryPlist, const QString &batteryPath, QString *error);
 
 // One reading of a recorded machine, taken after the reading that sets the chip baseline.
 std::optional<PowerSnapshot> readRecordedSnapshot(const QString &folder, QString *error);

@@ -1,53 +1,22 @@
 #include "platform/recorded/recording_writer.h"
 
 #include "monitor/battery_history_store.h"
-#include "platform/recorded/property_list_writer.h"
+#include "platform/recorded/recording_format.h"
 #include "sources/mac_names.h"
 #include "sources/power_sensor_reader.h"
 #include "sources/stats_smc.h"
 
 #include <QDir>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QSaveFile>
+
+#include <algorithm>
 
 namespace ferrow {
 namespace {
 
-QJsonValue jsonFromProperty(const PropertyValue &value)
+std::vector<std::pair<std::string, InMemorySMC::Entry>> smcKeys(MachinePlatform &machine)
 {
-    return std::visit(
-        [](const auto &v) -> QJsonValue {
-            using T = std::decay_t<decltype(v)>;
-            if constexpr (std::is_same_v<T, std::int64_t>)
-                return static_cast<qint64>(v);
-            else if constexpr (std::is_same_v<T, std::uint64_t> || std::is_same_v<T, double>)
-                return static_cast<double>(v);
-            else if constexpr (std::is_same_v<T, bool> || std::is_same_v<T, QString>)
-                return v;
-            else if constexpr (std::is_same_v<T, QByteArray>)
-                return QString::fromLatin1(v.toBase64());
-            else if constexpr (std::is_same_v<T, PropertyList>) {
-                QJsonArray array;
-                for (const PropertyValue &element : v)
-                    array.append(jsonFromProperty(element));
-                return array;
-            } else if constexpr (std::is_same_v<T, PropertyDictionary>) {
-                QJsonObject object;
-                for (const auto &[key, element] : v)
-                    object.insert(key, jsonFromProperty(element));
-                return object;
-            } else {
-                return QJsonValue::Null;
-            }
-        },
-        value.value);
-}
-
-QJsonObject smcKeys(MachinePlatform &machine)
-{
-    QJsonObject keys;
+    std::vector<std::pair<std::string, InMemorySMC::Entry>> keys;
     StatsSMC smc(machine.createSMCUserClient());
     if (!smc.isOpen())
         return keys;
@@ -56,61 +25,58 @@ QJsonObject smcKeys(MachinePlatform &machine)
         value.key = key;
         if (smc.readKey(value) != kIOKitSuccess || value.dataSize == 0)
             continue; // a key the machine does not have
-        const auto size = std::min<std::size_t>(value.dataSize, value.bytes.size());
-        const QByteArray bytes(reinterpret_cast<const char *>(value.bytes.data()), static_cast<qsizetype>(size));
-        QJsonObject entry{{QStringLiteral("type"), QString::fromStdString(value.dataType)},
-                          {QStringLiteral("bytes"), QString::fromLatin1(bytes.toHex())}};
-        if (size != value.dataSize)
-            entry.insert(QStringLiteral("size"), static_cast<qint64>(value.dataSize));
-        keys.insert(QString::fromStdString(key), entry);
+        const auto size = static_cast<std::ptrdiff_t>(std::min<std::size_t>(value.dataSize, value.bytes.size()));
+        keys.emplace_back(key, InMemorySMC::Entry{value.dataType, value.dataSize, std::vector<std::uint8_t>(value.bytes.begin(), value.bytes.begin() + size)});
     }
     return keys;
 }
 
-QJsonArray energyFrames(MachinePlatform &machine, const std::function<void()> &waitOneSecond)
+std::vector<Recording::EnergyFrame> energyFrames(MachinePlatform &machine, const std::function<void()> &waitOneSecond)
 {
-    QJsonArray frames;
+    std::vector<Recording::EnergyFrame> frames;
     std::unique_ptr<EnergyReportSource> source = machine.createEnergyReportSource();
     if (!source || !source->subscribe())
         return frames;
-    const auto text = [](const std::optional<QString> &t) { return t ? QJsonValue(*t) : QJsonValue(QJsonValue::Null); };
     for (int frame = 0; frame < 2; ++frame) {
         if (frame > 0)
             waitOneSecond();
-        const std::optional<std::vector<EnergyChannelSample>> sample = source->sample();
+        std::optional<std::vector<EnergyChannelSample>> sample = source->sample();
         if (!sample)
             break;
-        QJsonArray channels;
-        for (const EnergyChannelSample &channel : *sample)
-            channels.append(QJsonArray{text(channel.group), text(channel.name), text(channel.unitLabel), static_cast<qint64>(channel.counter)});
-        frames.append(QJsonObject{{QStringLiteral("uptime"), machine.clock().uptimeSeconds()}, {QStringLiteral("channels"), channels}});
+        frames.push_back({machine.clock().uptimeSeconds(), std::move(*sample)});
     }
     return frames;
 }
 
-QJsonValue systemProfiler(MachinePlatform &machine)
+std::vector<std::pair<QString, QByteArray>> storedEntries(MachinePlatform &machine, const std::optional<PropertyDictionary> &battery)
 {
-    const std::optional<CommandResult> result =
-        machine.commandRunner().run(MacNames::systemProfiler, MacNames::systemProfilerArguments);
-    if (!result)
-        return QJsonValue::Undefined;
-    const QJsonDocument document = QJsonDocument::fromJson(result->standardOutput);
-    return QJsonObject{{QStringLiteral("exitStatus"), result->exitStatus},
-                       {QStringLiteral("output"), document.isObject() ? QJsonValue(document.object()) : QJsonValue(QString::fromUtf8(result->standardOutput))}};
-}
-
-QJsonObject storedEntries(MachinePlatform &machine, const std::optional<PropertyDictionary> &battery)
-{
-    QJsonObject entries;
+    std::vector<std::pair<QString, QByteArray>> entries;
     const std::optional<QString> identifier =
         BatteryHistoryStore::batteryIdentifier(propertyString(propertyLookup(battery ? &*battery : nullptr, QStringLiteral("Serial"))));
     if (!identifier)
         return entries;
     for (const QString &prefix : {BatteryHistoryStore::kElectricalKeyPrefix, BatteryHistoryStore::kTemperatureKeyPrefix}) {
-        if (const std::optional<QByteArray> stored = machine.preferences().data(prefix + *identifier))
-            entries.insert(prefix + *identifier, QString::fromUtf8(*stored));
+        if (std::optional<QByteArray> stored = machine.preferences().data(prefix + *identifier))
+            entries.emplace_back(prefix + *identifier, std::move(*stored));
     }
     return entries;
+}
+
+// Asked in the order recordings have always been made in: a machine that moves on while it is recorded (the
+// simulated one) gives the answers of the same moments.
+Recording capture(MachinePlatform &machine, const QString &description, const std::function<void()> &waitOneSecond)
+{
+    Recording recording;
+    recording.description = description;
+    recording.battery = machine.registry().registryProperties(MacNames::batteryService);
+    recording.osMajorVersion = machine.systemInfo().operatingSystemMajorVersion();
+    recording.adapterDetails = machine.systemInfo().hasExternalPowerAdapterDetails();
+    recording.smcKeys = smcKeys(machine);
+    recording.energyFrames = energyFrames(machine, waitOneSecond);
+    recording.powerSources = machine.powerSources().powerSourceDescriptions();
+    recording.systemProfiler = machine.commandRunner().run(MacNames::systemProfiler, MacNames::systemProfilerArguments);
+    recording.preferences = storedEntries(machine, recording.battery);
+    return recording;
 }
 
 bool save(const QString &path, const QByteArray &contents, QString *error)
@@ -134,26 +100,10 @@ bool writeRecording(MachinePlatform &machine, const QString &description, const 
         return false;
     }
     const QDir directory(folder);
-    const std::optional<PropertyDictionary> battery = machine.registry().registryProperties(MacNames::batteryService);
-
-    QJsonObject root{
-        {QStringLiteral("format"), QStringLiteral("ferrow-recording/1")},
-        {QStringLiteral("description"), description},
-        {QStringLiteral("osMajorVersion"), machine.systemInfo().operatingSystemMajorVersion()},
-        {QStringLiteral("adapterDetails"), machine.systemInfo().hasExternalPowerAdapterDetails()},
-        {QStringLiteral("smc"), smcKeys(machine)},
-        {QStringLiteral("energy"), energyFrames(machine, waitOneSecond)},
-    };
-    if (const std::optional<PropertyList> sources = machine.powerSources().powerSourceDescriptions())
-        root.insert(QStringLiteral("powerSources"), jsonFromProperty(*sources));
-    if (const QJsonValue profiler = systemProfiler(machine); !profiler.isUndefined())
-        root.insert(QStringLiteral("systemProfiler"), profiler);
-    if (const QJsonObject entries = storedEntries(machine, battery); !entries.isEmpty())
-        root.insert(QStringLiteral("preferences"), entries);
-
-    if (battery && !save(directory.filePath(QStringLiteral("battery.plist")), writePropertyList(PropertyList{*battery}), &message))
+    const RecordingFiles files = encodeRecording(capture(machine, description, waitOneSecond));
+    if (files.batteryPlist && !save(directory.filePath(RecordingFormat::batteryFile), *files.batteryPlist, &message))
         return false;
-    return save(directory.filePath(QStringLiteral("machine.json")), QJsonDocument(root).toJson(), &message);
+    return save(directory.filePath(RecordingFormat::machineFile), files.machineJson, &message);
 }
 
 } // namespace ferrow
