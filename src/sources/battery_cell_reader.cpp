@@ -19,16 +19,16 @@ bool isPlausibleCell(double volts)
     return std::isfinite(volts) && volts >= kMinimumCellV && volts <= kMaximumCellV;
 }
 
-std::string cellKey(int cell)
+// "SBA1".."SBA8", in order.
+const std::vector<std::string> &cellKeys()
 {
-    return "SBA" + std::to_string(cell);
-}
-
-bool keyExists(StatsSMC &smc, const std::string &key)
-{
-    SMCValue value;
-    value.key = key;
-    return smc.readKey(value) == kIOKitSuccess && value.dataSize != 0;
+    static const std::vector<std::string> keys = [] {
+        std::vector<std::string> names;
+        for (int cell = 1; cell <= BatteryCellReader::kMaximumCells; ++cell)
+            names.push_back("SBA" + std::to_string(cell));
+        return names;
+    }();
+    return keys;
 }
 
 std::optional<double> readCell(StatsSMC &smc, const std::string &key)
@@ -48,31 +48,23 @@ std::optional<double> readCell(StatsSMC &smc, const std::string &key)
 
 std::vector<std::string> BatteryCellReader::smcKeys()
 {
-    std::vector<std::string> keys;
-    for (int cell = 1; cell <= kMaximumCells; ++cell)
-        keys.push_back(cellKey(cell));
+    std::vector<std::string> keys = cellKeys();
     keys.push_back(kPackKey);
     return keys;
 }
 
 BatteryCellReader::Reading BatteryCellReader::readCells(StatsSMC &smc)
 {
-    if (!m_keys) {
-        m_keys.emplace();
-        for (int cell = 1; cell <= kMaximumCells; ++cell) {
-            if (keyExists(smc, cellKey(cell)))
-                m_keys->push_back(cellKey(cell));
-        }
-    }
-    if (m_keys->empty())
+    const std::vector<std::string> &keys = m_keys.keys(smc, cellKeys());
+    if (keys.empty())
         return {};
-    for (std::size_t i = 0; i < m_keys->size(); ++i) {
-        if ((*m_keys)[i] != cellKey(static_cast<int>(i) + 1))
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        if (keys[i] != cellKeys()[i])
             return {}; // a gap in the numbering: the cells cannot be matched to the pack
     }
 
     Reading reading;
-    for (const std::string &key : *m_keys)
+    for (const std::string &key : keys)
         reading.cellsV.push_back(readCell(smc, key));
     reading.packV = smc.readDouble(kPackKey);
     return reading;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/power_snapshot.h"
+#include "sources/key_probe.h"
 #include "sources/stats_smc.h"
 
 #include <optional>
@@ -23,10 +24,10 @@ public:
 
     Reading readCells(StatsSMC &smc);
     // The keys found on this machine; absent until the first read, then fixed for the process.
-    const std::optional<std::vector<std::string>> &keys() const { return m_keys; }
+    const std::optional<std::vector<std::string>> &keys() const { return m_keys.found(); }
 
 private:
-    std::optional<std::vector<std::string>> m_keys;
+    KeyProbe<std::vector<std::string>> m_keys;
 };
 
 struct CellVoltages {

@@ -23,17 +23,8 @@ bool isPlausibleBatteryTemperature(double celsius)
 
 std::vector<std::optional<double>> BatteryTemperatureReader::readSensors(StatsSMC &smc)
 {
-    if (!m_availableKeys) {
-        m_availableKeys.emplace();
-        for (const char *key : kSensorKeys) {
-            SMCValue value;
-            value.key = key;
-            if (smc.readKey(value) == kIOKitSuccess && value.dataSize != 0)
-                m_availableKeys->push_back(key);
-        }
-    }
     std::vector<std::optional<double>> celsius;
-    for (const std::string &key : *m_availableKeys)
+    for (const std::string &key : m_availableKeys.keys(smc, kSensorKeys))
         celsius.push_back(smc.readDouble(key));
     return celsius;
 }

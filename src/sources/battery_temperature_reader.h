@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sources/key_probe.h"
 #include "sources/stats_smc.h"
 
 #include <optional>
@@ -14,10 +15,10 @@ public:
     static std::vector<std::string> smcKeys();
     std::vector<std::optional<double>> readSensors(StatsSMC &smc);
     // The sensors found on this machine; absent until the first read, then fixed for the process.
-    const std::optional<std::vector<std::string>> &availableKeys() const { return m_availableKeys; }
+    const std::optional<std::vector<std::string>> &availableKeys() const { return m_availableKeys.found(); }
 
 private:
-    std::optional<std::vector<std::string>> m_availableKeys;
+    KeyProbe<std::vector<std::string>> m_availableKeys;
 };
 
 // Whether a battery temperature in °C is one a working battery can have.

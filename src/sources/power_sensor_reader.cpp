@@ -101,168 +101,208 @@ BatteryHistoryStore &PowerSensorReader::historyStore()
     return *m_batteryHistoryStore;
 }
 
-void PowerSensorReader::discoverPowerKeys()
+StatsChipPowerReader &PowerSensorReader::chipReader()
 {
-    m_availableSMCKeys.emplace();
-    for (const std::string &powerKey : kPowerKeys) {
-        SMCValue value;
-        value.key = powerKey;
-        if (smc().readKey(value) == kIOKitSuccess && value.dataSize != 0)
-            m_availableSMCKeys->insert(powerKey);
-    }
+    if (!m_chipReader)
+        m_chipReader = std::make_unique<StatsChipPowerReader>(m_platform->createEnergyReportSource(), m_platform->clock());
+    return *m_chipReader;
 }
 
 std::optional<double> PowerSensorReader::readPowerKey(const std::string &powerKey, double lowest, double highest)
 {
-    if (!m_availableSMCKeys || !m_availableSMCKeys->contains(powerKey))
+    const std::optional<std::set<std::string>> &available = m_powerKeys.found();
+    if (!available || !available->contains(powerKey))
         return std::nullopt;
     // An existing key that reads nothing (all-zero bytes, a failed call) counts as 0.
     const double value = smc().readDouble(powerKey).value_or(0.0);
     return std::isfinite(value) && value >= lowest && value <= highest ? std::optional(value) : std::nullopt;
 }
 
+struct PowerSensorReader::Reading {
+    int osMajorVersion = 0;
+    std::optional<double> dcPowerW;
+    std::optional<double> systemKeyW;
+    std::optional<double> systemPowerW;
+    std::optional<PropertyDictionary> properties;
+    // Into properties; null where the service or the dictionary is missing.
+    const PropertyDictionary *props = nullptr;
+    const PropertyDictionary *batteryData = nullptr;
+    const PropertyDictionary *lifetime = nullptr;
+    const PropertyDictionary *adapter = nullptr;
+    std::optional<QString> serial;
+    std::optional<std::int64_t> remainingMAH;
+    std::optional<std::int64_t> voltageMV;
+    std::optional<double> signedCurrentA;
+};
+
 PowerSnapshot PowerSensorReader::read()
 {
     PowerSnapshot s;
-    const int osMajorVersion = m_platform->systemInfo().operatingSystemMajorVersion();
+    Reading r;
+    r.osMajorVersion = m_platform->systemInfo().operatingSystemMajorVersion();
+    m_powerKeys.keys(smc(), kPowerKeys);
+    // One sample a read: the chip's power is what it used since the previous read.
+    s.chipPower = chipReader().sample();
+    readInputPower(r, s);
+    readBatteryService(r, s);
+    readFlowsAndChargeState(r, s);
+    readCapacities(r, s);
+    readHealth(s);
+    readCellsAndTemperature(r, s);
+    readPackElectrics(r, s);
+    recordLifetimeExtremes(r, s);
+    readTimeToFull(r, s);
+    readCountsAndNames(r, s);
+    completeSnapshot(r, s);
+    return s;
+}
 
-    // 1–2. Keys once per process; one chip sample per read.
-    if (!m_availableSMCKeys)
-        discoverPowerKeys();
-    if (!m_chipReader)
-        m_chipReader = std::make_unique<StatsChipPowerReader>(m_platform->createEnergyReportSource(), m_platform->clock());
-    s.chipPower = m_chipReader->sample();
-
-    // 3. External input.
+void PowerSensorReader::readInputPower(Reading &r, PowerSnapshot &s)
+{
     const std::optional<double> inputVoltageV = readPowerKey("VD0R", 0, kMaximumInputVoltageV);
     const std::optional<double> inputCurrentA = readPowerKey("ID0R", 0, kMaximumInputCurrentA);
     s.dcVoltageV = inputVoltageV && *inputVoltageV >= kInputVoltageFloorV ? *inputVoltageV : 0.0;
     s.dcCurrentA = inputCurrentA && *inputCurrentA >= kInputCurrentFloorA ? *inputCurrentA : 0.0;
     const std::optional<double> inputPowerW = readPowerKey("PDTR", 0, kMaximumPowerW);
-    const std::optional<double> systemKeyW = readPowerKey("PSTR", 0, kMaximumPowerW);
-    const std::optional<double> dcPowerW = inputVoltageV && inputCurrentA ? std::optional(s.dcVoltageV * s.dcCurrentA) : inputPowerW;
+    r.systemKeyW = readPowerKey("PSTR", 0, kMaximumPowerW);
+    r.dcPowerW = inputVoltageV && inputCurrentA ? std::optional(s.dcVoltageV * s.dcCurrentA) : inputPowerW;
+}
 
-    // 4–6. Battery service, presence, system power.
-    const std::optional<PropertyDictionary> properties = m_platform->registry().registryProperties(MacNames::batteryService);
-    const PropertyDictionary *props = properties ? &*properties : nullptr;
-    s.hasBattery = props && propertyBoolean(at(props, "BatteryInstalled")).value_or(true);
-    const std::optional<std::int64_t> systemLoadMW = integerAt(propertyDictionary(at(props, "PowerTelemetryData")), "SystemLoad");
-    std::optional<double> systemPowerW = systemKeyW;
-    if (!systemPowerW && systemLoadMW)
-        systemPowerW = std::fabs(static_cast<double>(*systemLoadMW) / 1000.0);
+void PowerSensorReader::readBatteryService(Reading &r, PowerSnapshot &s)
+{
+    r.properties = m_platform->registry().registryProperties(MacNames::batteryService);
+    r.props = r.properties ? &*r.properties : nullptr;
+    r.batteryData = propertyDictionary(at(r.props, "BatteryData"));
+    r.lifetime = propertyDictionary(at(r.batteryData, "LifetimeData"));
+    r.adapter = propertyDictionary(at(r.props, "AdapterDetails"));
+    r.serial = propertyString(at(r.props, "Serial"));
+    s.hasBattery = r.props && propertyBoolean(at(r.props, "BatteryInstalled")).value_or(true);
+    // The SMC's system power when it has one, else the battery's own figure for the load.
+    const std::optional<std::int64_t> systemLoadMW = integerAt(propertyDictionary(at(r.props, "PowerTelemetryData")), "SystemLoad");
+    r.systemPowerW = r.systemKeyW;
+    if (!r.systemPowerW && systemLoadMW)
+        r.systemPowerW = std::fabs(static_cast<double>(*systemLoadMW) / 1000.0);
+}
 
-    // 7. Battery rail.
+void PowerSensorReader::readFlowsAndChargeState(const Reading &r, PowerSnapshot &s)
+{
     s.batteryRailVoltageV = readPowerKey("VP0R", 2, 30);
-
-    // 8. External power and battery flow.
     if (!s.hasBattery) {
         s.isExternalConnected = true;
     } else {
-        const std::optional<bool> reported = propertyBoolean(at(props, "ExternalConnected"));
+        const std::optional<bool> reported = propertyBoolean(at(r.props, "ExternalConnected"));
         s.isExternalConnected = reported ? *reported : m_platform->systemInfo().hasExternalPowerAdapterDetails();
-        s.batteryFlowW = dcPowerW.value_or(0.0) - systemPowerW.value_or(0.0);
+        s.batteryFlowW = r.dcPowerW.value_or(0.0) - r.systemPowerW.value_or(0.0);
         s.batteryChargePowerW = s.isExternalConnected && s.batteryFlowW > 0 ? s.batteryFlowW : 0.0;
     }
-
-    // 9–10. Nested dictionaries; charging.
-    const PropertyDictionary *batteryData = propertyDictionary(at(props, "BatteryData"));
-    const PropertyDictionary *lifetime = propertyDictionary(at(batteryData, "LifetimeData"));
-    const PropertyDictionary *adapter = propertyDictionary(at(props, "AdapterDetails"));
     if (s.hasBattery && s.isExternalConnected)
-        s.isCharging = propertyBoolean(at(props, "IsCharging")).value_or(false) || s.batteryChargePowerW > kChargingOverrideW;
+        s.isCharging = propertyBoolean(at(r.props, "IsCharging")).value_or(false) || s.batteryChargePowerW > kChargingOverrideW;
+}
 
-    // 11–12. State of charge and capacities.
-    s.batteryPercent = s.hasBattery ? stateOfChargePercent(props) : 0;
-    s.designCapacityMAH = firstValidCapacity(integerAt(props, "DesignCapacity"), integerAt(batteryData, "DesignCapacity"));
-    s.fullChargeCapacityMAH = firstValidCapacity(integerAt(props, "AppleRawMaxCapacity"), integerAt(batteryData, "FullChargeCapacity"));
-    s.nominalFullChargeCapacityMAH = firstValidCapacity(integerAt(props, "NominalChargeCapacity"), std::nullopt);
+void PowerSensorReader::readCapacities(Reading &r, PowerSnapshot &s)
+{
+    s.batteryPercent = s.hasBattery ? stateOfChargePercent(r.props) : 0;
+    s.designCapacityMAH = firstValidCapacity(integerAt(r.props, "DesignCapacity"), integerAt(r.batteryData, "DesignCapacity"));
+    s.fullChargeCapacityMAH = firstValidCapacity(integerAt(r.props, "AppleRawMaxCapacity"), integerAt(r.batteryData, "FullChargeCapacity"));
+    s.nominalFullChargeCapacityMAH = firstValidCapacity(integerAt(r.props, "NominalChargeCapacity"), std::nullopt);
+    r.remainingMAH = integerAt(r.batteryData, "RemainingCapacity");
+    s.remainingCapacityMAH = isValidCapacity(r.remainingMAH) ? r.remainingMAH : std::nullopt;
+}
 
-    // 13. Health.
-    if (s.hasBattery) {
-        s.batteryHealthPercent = m_health.systemBatteryHealthPercent();
-        if (!s.batteryHealthPercent)
-            s.batteryHealthPercent = BatteryHealthSources::capacityHealthPercent(
-                s.nominalFullChargeCapacityMAH ? s.nominalFullChargeCapacityMAH : s.fullChargeCapacityMAH, s.designCapacityMAH);
-        s.batteryHealthCondition = m_health.readBatteryHealthCondition();
-    }
+void PowerSensorReader::readHealth(PowerSnapshot &s)
+{
+    if (!s.hasBattery)
+        return;
+    s.batteryHealthPercent = m_health.systemBatteryHealthPercent();
+    if (!s.batteryHealthPercent)
+        s.batteryHealthPercent = BatteryHealthSources::capacityHealthPercent(
+            s.nominalFullChargeCapacityMAH ? s.nominalFullChargeCapacityMAH : s.fullChargeCapacityMAH, s.designCapacityMAH);
+    s.batteryHealthCondition = m_health.readBatteryHealthCondition();
+}
 
-    // 14–15. Remaining capacity; cells.
-    const std::optional<std::int64_t> remainingMAH = integerAt(batteryData, "RemainingCapacity");
-    s.remainingCapacityMAH = isValidCapacity(remainingMAH) ? remainingMAH : std::nullopt;
-    CellVoltages cells = resolveCellVoltages(propertyNumberList(at(batteryData, "CellVoltage")), s.hasBattery,
-                                             osMajorVersion == MacNames::firstVersionWithSMCSensors, m_cellReader, smc());
+void PowerSensorReader::readCellsAndTemperature(const Reading &r, PowerSnapshot &s)
+{
+    CellVoltages cells = resolveCellVoltages(propertyNumberList(at(r.batteryData, "CellVoltage")), s.hasBattery,
+                                             r.osMajorVersion == MacNames::firstVersionWithSMCSensors, m_cellReader, smc());
     s.cellVoltagesV = std::move(cells.voltagesV);
     s.cellVoltageSource = cells.source;
 
-    // 16–17. Temperature: a present top-level value is never replaced by the nested one.
-    std::optional<std::int64_t> rawTemperature = integerAt(props, "Temperature");
+    // A present top-level value is never replaced by the nested one.
+    std::optional<std::int64_t> rawTemperature = integerAt(r.props, "Temperature");
     if (!rawTemperature)
-        rawTemperature = integerAt(batteryData, "Temperature");
+        rawTemperature = integerAt(r.batteryData, "Temperature");
     std::optional<double> registryC = rawTemperature ? std::optional(static_cast<double>(*rawTemperature) / 100.0) : std::nullopt;
     if (registryC && !isPlausibleBatteryTemperature(*registryC))
         registryC.reset();
-    s.batteryTemperatureC = resolveTemperature(registryC, s.hasBattery, osMajorVersion, m_temperatureReader, smc());
+    s.batteryTemperatureC = resolveTemperature(registryC, s.hasBattery, r.osMajorVersion, m_temperatureReader, smc());
+}
 
-    // 18. Temperature history.
-    const std::optional<QString> serial = propertyString(at(props, "Serial"));
-    if (s.hasBattery && osMajorVersion >= MacNames::firstVersionWithSMCSensors) {
-        const BatteryTemperatureHistory temperatures = historyStore().recordTemperature(serial, s.batteryTemperatureC);
+// The pack voltage, and a current whose sign follows the charging state.
+void PowerSensorReader::readPackElectrics(Reading &r, PowerSnapshot &s)
+{
+    r.voltageMV = inRange(integerAt(r.props, "Voltage"), 1, 30'000);
+    if (r.voltageMV)
+        s.batteryVoltageV = static_cast<double>(*r.voltageMV) / 1000.0;
+    const std::optional<std::int64_t> amperageMA = integerAt(r.props, "Amperage");
+    r.signedCurrentA = amperageMA ? std::optional(static_cast<double>(*amperageMA) / 1000.0) : std::nullopt;
+    if (r.signedCurrentA && std::fabs(*r.signedCurrentA) <= kMaximumBatteryCurrentA)
+        s.batteryCurrentA = s.isCharging ? std::fabs(*r.signedCurrentA) : -std::fabs(*r.signedCurrentA);
+}
+
+void PowerSensorReader::recordLifetimeExtremes(const Reading &r, PowerSnapshot &s)
+{
+    if (r.osMajorVersion < MacNames::firstVersionWithSMCSensors) {
+        // Systems without the temperature history have the battery's own lifetime figures.
+        s.lifetimeMaxTemperatureC = lifetimeTemperature(integerAt(r.lifetime, "MaximumTemperature"), 1.0);
+        s.lifetimeMinTemperatureC = lifetimeTemperature(integerAt(r.lifetime, "MinimumTemperature"), 1.0);
+        s.lifetimeAverageTemperatureC = lifetimeTemperature(integerAt(r.lifetime, "AverageTemperature"), 10.0);
+    } else if (s.hasBattery) {
+        const BatteryTemperatureHistory temperatures = historyStore().recordTemperature(r.serial, s.batteryTemperatureC);
         s.lifetimeMaxTemperatureC = temperatures.maximumC;
         s.lifetimeMinTemperatureC = temperatures.minimumC;
         s.lifetimeAverageTemperatureC = temperatures.averageC;
     }
-
-    // 19. Pack voltage, and a current whose sign follows the charging state.
-    const std::optional<std::int64_t> voltageMV = inRange(integerAt(props, "Voltage"), 1, 30'000);
-    if (voltageMV)
-        s.batteryVoltageV = static_cast<double>(*voltageMV) / 1000.0;
-    const std::optional<std::int64_t> amperageMA = integerAt(props, "Amperage");
-    const std::optional<double> signedCurrentA = amperageMA ? std::optional(static_cast<double>(*amperageMA) / 1000.0) : std::nullopt;
-    if (signedCurrentA && std::fabs(*signedCurrentA) <= kMaximumBatteryCurrentA)
-        s.batteryCurrentA = s.isCharging ? std::fabs(*signedCurrentA) : -std::fabs(*signedCurrentA);
-
-    // 20. Electrical history, on every version, with the current's own sign.
+    // The electrical history on every version, with the current's own sign.
     if (s.hasBattery) {
-        const BatteryElectricalHistory electrical = historyStore().recordElectrical(serial, s.batteryVoltageV, signedCurrentA);
+        const BatteryElectricalHistory electrical = historyStore().recordElectrical(r.serial, s.batteryVoltageV, r.signedCurrentA);
         s.lifetimeMaxPackVoltageV = electrical.maximumVoltageV;
         s.lifetimeMinPackVoltageV = electrical.minimumVoltageV;
         s.lifetimeMaxChargeCurrentA = electrical.maximumChargeCurrentA;
         s.lifetimeMaxDischargeCurrentA = electrical.maximumDischargeCurrentA;
     }
+}
 
-    // 21. Time to full: the battery's own figure when valid, else an estimate while charging.
-    std::optional<std::int64_t> reportedMinutes = integerAt(props, "AvgTimeToFull");
+// The battery's own figure when valid, else an estimate while charging.
+void PowerSensorReader::readTimeToFull(const Reading &r, PowerSnapshot &s)
+{
+    std::optional<std::int64_t> reportedMinutes = integerAt(r.props, "AvgTimeToFull");
     if (!reportedMinutes)
-        reportedMinutes = integerAt(batteryData, "AvgTimeToFull");
+        reportedMinutes = integerAt(r.batteryData, "AvgTimeToFull");
     if (inRange(reportedMinutes, 1, 65'534))
         s.estimatedMinutesToFull = reportedMinutes;
     else if (s.isCharging && s.batteryChargePowerW >= kEstimateMinimumChargeW && s.fullChargeCapacityMAH)
-        s.estimatedMinutesToFull = estimateMinutesToFull(voltageMV, remainingMAH, *s.fullChargeCapacityMAH, s.batteryChargePowerW);
+        s.estimatedMinutesToFull = estimateMinutesToFull(r.voltageMV, r.remainingMAH, *s.fullChargeCapacityMAH, s.batteryChargePowerW);
+}
 
-    // 22. Counts and names.
-    s.cycleCount = integerAt(props, "CycleCount");
-    s.designCycleCount = integerAt(props, "DesignCycleCount9C");
+void PowerSensorReader::readCountsAndNames(const Reading &r, PowerSnapshot &s)
+{
+    s.cycleCount = integerAt(r.props, "CycleCount");
+    s.designCycleCount = integerAt(r.props, "DesignCycleCount9C");
     if (!s.designCycleCount)
-        s.designCycleCount = integerAt(props, "DesignCycleCount70");
-    s.deviceName = propertyString(at(props, "DeviceName"));
-    s.batterySerial = serial;
-    s.totalOperatingMinutes = inRange(integerAt(lifetime, "TotalOperatingTime"), 0, 10'000'000);
+        s.designCycleCount = integerAt(r.props, "DesignCycleCount70");
+    s.deviceName = propertyString(at(r.props, "DeviceName"));
+    s.batterySerial = r.serial;
+    s.totalOperatingMinutes = inRange(integerAt(r.lifetime, "TotalOperatingTime"), 0, 10'000'000);
+    s.batterySafetyProtectionCount = inRange(integerAt(r.props, "BatteryCellDisconnectCount"), 0, 1'000'000);
+    s.adapterDescription = propertyString(at(r.adapter, "Description"));
+}
 
-    // 23. Lifetime temperatures from the battery itself on systems without the history.
-    if (osMajorVersion < MacNames::firstVersionWithSMCSensors) {
-        s.lifetimeMaxTemperatureC = lifetimeTemperature(integerAt(lifetime, "MaximumTemperature"), 1.0);
-        s.lifetimeMinTemperatureC = lifetimeTemperature(integerAt(lifetime, "MinimumTemperature"), 1.0);
-        s.lifetimeAverageTemperatureC = lifetimeTemperature(integerAt(lifetime, "AverageTemperature"), 10.0);
-    }
-
-    // 24–25. Safety count, adapter, and the time of the reading.
-    s.batterySafetyProtectionCount = inRange(integerAt(props, "BatteryCellDisconnectCount"), 0, 1'000'000);
-    s.adapterDescription = propertyString(at(adapter, "Description"));
-    s.dcPowerW = dcPowerW.value_or(0.0);
-    s.systemPowerW = systemPowerW.value_or(0.0);
-    s.isDataAvailable = dcPowerW.has_value() && systemPowerW.has_value();
+void PowerSensorReader::completeSnapshot(const Reading &r, PowerSnapshot &s)
+{
+    s.dcPowerW = r.dcPowerW.value_or(0.0);
+    s.systemPowerW = r.systemPowerW.value_or(0.0);
+    s.isDataAvailable = r.dcPowerW.has_value() && r.systemPowerW.has_value();
     s.updatedAt = m_platform->clock().now();
-    return s;
 }
 
 } // namespace ferrow

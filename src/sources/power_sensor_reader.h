@@ -5,6 +5,7 @@
 #include "sources/battery_cell_reader.h"
 #include "sources/battery_health_sources.h"
 #include "sources/battery_temperature_reader.h"
+#include "sources/key_probe.h"
 #include "sources/platform_interfaces.h"
 #include "sources/stats_chip_power_reader.h"
 #include "sources/stats_smc.h"
@@ -29,13 +30,29 @@ public:
     static std::vector<std::string> smcKeysRead();
 
     // The power keys found on the first read; absent before it, then fixed for the process.
-    const std::optional<std::set<std::string>> &availableSMCKeys() const { return m_availableSMCKeys; }
+    const std::optional<std::set<std::string>> &availableSMCKeys() const { return m_powerKeys.found(); }
 
 private:
+    // What a read has gathered so far that its later steps need besides the snapshot.
+    struct Reading;
+
     StatsSMC &smc();
+    StatsChipPowerReader &chipReader();
     BatteryHistoryStore &historyStore();
-    void discoverPowerKeys();
     std::optional<double> readPowerKey(const std::string &key, double lowest, double highest);
+
+    // The steps of read(), in the order it takes them.
+    void readInputPower(Reading &r, PowerSnapshot &s);
+    void readBatteryService(Reading &r, PowerSnapshot &s);
+    void readFlowsAndChargeState(const Reading &r, PowerSnapshot &s);
+    static void readCapacities(Reading &r, PowerSnapshot &s);
+    void readHealth(PowerSnapshot &s);
+    void readCellsAndTemperature(const Reading &r, PowerSnapshot &s);
+    static void readPackElectrics(Reading &r, PowerSnapshot &s);
+    void recordLifetimeExtremes(const Reading &r, PowerSnapshot &s);
+    static void readTimeToFull(const Reading &r, PowerSnapshot &s);
+    static void readCountsAndNames(const Reading &r, PowerSnapshot &s);
+    void completeSnapshot(const Reading &r, PowerSnapshot &s);
 
     std::unique_ptr<MachinePlatform> m_platform;
     std::unique_ptr<StatsSMC> m_smc;
@@ -43,7 +60,7 @@ private:
     BatteryCellReader m_cellReader;
     BatteryTemperatureReader m_temperatureReader;
     std::unique_ptr<BatteryHistoryStore> m_batteryHistoryStore;
-    std::optional<std::set<std::string>> m_availableSMCKeys;
+    KeyProbe<std::set<std::string>> m_powerKeys;
     BatteryHealthSources m_health;
 };
 
