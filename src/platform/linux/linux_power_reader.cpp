@@ -1,7 +1,6 @@
 #include "platform/linux/linux_power_reader.h"
 
 #include "platform/common/in_memory_key_value_store.h"
-#include "sources/battery_health_sources.h"
 #include "sources/battery_temperature_reader.h"
 #include "sources/reading_rules.h"
 
@@ -110,6 +109,95 @@ std::optional<double> energyToFullWh(const BatteryReading &battery, std::optiona
     return voltageV ? std::optional((*full - *now) / 1e6 * *voltageV) : std::nullopt;
 }
 
+std::optional<double> packTemperatureC(const BatteryReading &battery)
+{
+    if (!battery.temperatureDeciC || *battery.temperatureDeciC < -kLargestTemperatureDeciC || *battery.temperatureDeciC > kLargestTemperatureDeciC)
+        return std::nullopt;
+    const double celsius = static_cast<double>(*battery.temperatureDeciC) / 10.0;
+    return isPlausibleBatteryTemperature(celsius) ? std::optional(celsius) : std::nullopt;
+}
+
+std::optional<double> packVoltageV(const BatteryReading &battery)
+{
+    const std::optional<double> voltageUV = asDouble(battery.voltageUV);
+    return within(voltageUV ? std::optional(*voltageUV / 1e6) : std::nullopt, 0.001, 30.0);
+}
+
+// The battery's own word for being on external power; a driver may list no supply, or one that
+// reads offline, while the battery charges.
+bool statusSaysExternalPower(const std::optional<std::string> &status)
+{
+    return status == "Charging" || status == "Full" || status == "Not charging";
+}
+
+// Health as full over design in the battery's own counters: energies need no voltage.
+std::optional<std::int64_t> counterHealthPercent(const BatteryReading &battery)
+{
+    const std::optional<double> full = asDouble(battery.full), design = asDouble(battery.fullDesign);
+    if (!full || !design || *full <= 0 || *design < 1)
+        return std::nullopt;
+    return static_cast<std::int64_t>(std::clamp(std::round(*full / *design * 100.0), 0.0, 100.0));
+}
+
+template <typename Member>
+std::optional<std::int64_t> summed(const std::vector<BatteryReading> &packs, Member member)
+{
+    std::int64_t sum = 0;
+    for (const BatteryReading &pack : packs) {
+        const std::optional<double> value = asDouble(pack.*member);
+        if (!value)
+            return std::nullopt;
+        sum += static_cast<std::int64_t>(*value);
+    }
+    return sum;
+}
+
+// Several packs (an internal and an external one, charged and drained one after the other) as
+// the user thinks of them: one battery whose charge is the packs' energy over their full energy,
+// whose flow is their sum, charging while any pack charges. The pack doing the work lends its
+// voltage, current, temperature and name.
+BatteryReading combinedPacks(const std::vector<BatteryReading> &packs)
+{
+    if (packs.size() == 1)
+        return packs.front();
+    const auto active = std::max_element(packs.begin(), packs.end(), [](const BatteryReading &a, const BatteryReading &b) {
+        return powerMagnitudeW(a).value_or(0) < powerMagnitudeW(b).value_or(0);
+    });
+    BatteryReading combined = *active;
+    const auto any = [&](const char *status) {
+        return std::any_of(packs.begin(), packs.end(), [status](const BatteryReading &pack) { return pack.status == status; });
+    };
+    if (any("Charging"))
+        combined.status = "Charging";
+    else if (any("Discharging"))
+        combined.status = "Discharging";
+    double flowW = 0;
+    bool flowKnown = false;
+    for (const BatteryReading &pack : packs) {
+        if (const std::optional<double> powerW = powerMagnitudeW(pack)) {
+            flowW += intoBatterySign(pack) * *powerW;
+            flowKnown = true;
+        }
+    }
+    combined.powerUW = flowKnown ? std::optional(std::llround(std::fabs(flowW) * 1e6)) : std::nullopt;
+    combined.currentUA.reset(); // the sum's current follows from its power over the active pack's voltage
+    const bool sameUnits = std::all_of(packs.begin(), packs.end(), [&](const BatteryReading &pack) {
+        return pack.energyUnits == packs.front().energyUnits && pack.voltageMinDesignUV == packs.front().voltageMinDesignUV;
+    });
+    combined.now = sameUnits ? summed(packs, &BatteryReading::now) : std::nullopt;
+    combined.full = sameUnits ? summed(packs, &BatteryReading::full) : std::nullopt;
+    combined.fullDesign = sameUnits ? summed(packs, &BatteryReading::fullDesign) : std::nullopt;
+    combined.capacityPercent.reset(); // from the summed counters
+    if (!combined.now || !combined.full) {
+        std::int64_t percent = 0;
+        for (const BatteryReading &pack : packs)
+            percent += pack.capacityPercent.value_or(0);
+        combined.capacityPercent = percent / static_cast<std::int64_t>(packs.size());
+    }
+    combined.timeToFullS.reset(); // each pack's own says nothing of the whole
+    return combined;
+}
+
 } // namespace
 
 LinuxPowerReader::LinuxPowerReader(std::unique_ptr<SysfsFiles> files, std::unique_ptr<KeyValueStore> preferences,
@@ -158,21 +246,21 @@ PowerSnapshot LinuxPowerReader::read()
                                                                     : sensor("PDTR", kMaximumPowerW);
     std::optional<double> systemPowerW = sensor("PSTR", kMaximumPowerW);
 
-    const std::optional<BatteryReading> battery = m_supplies.readBattery();
+    const std::vector<BatteryReading> packs = m_supplies.readBatteries();
+    const std::optional<BatteryReading> battery = packs.empty() ? std::nullopt : std::optional(combinedPacks(packs));
     const std::optional<bool> externalOnline = m_supplies.readExternalOnline();
-    // Without the SMC's figures, nothing comes in while no supply is online; with one online,
-    // what comes in is not measured here.
+    s.hasBattery = battery.has_value();
+    s.isExternalConnected = !battery || externalOnline == true || statusSaysExternalPower(battery->status);
+    // Without the SMC's figures, nothing comes in while the machine runs on its battery; on
+    // external power, what comes in is not measured here.
     const bool smcPower = m_hwmon.smcKeys.contains("PDTR") || m_hwmon.smcKeys.contains("PSTR");
-    if (!dcPowerW && !smcPower && m_supplies.hasBattery() && externalOnline == false)
+    if (!dcPowerW && !smcPower && battery && !s.isExternalConnected && (externalOnline.has_value() || battery->status))
         dcPowerW = 0.0;
 
-    s.hasBattery = battery.has_value();
     if (battery) {
-        readBattery(s, *battery, externalOnline);
+        readBattery(s, *battery, packs);
         if (!systemPowerW && battery->status == "Discharging" && externalOnline != true)
             systemPowerW = powerMagnitudeW(*battery); // on the battery alone the system draws what it gives
-    } else {
-        s.isExternalConnected = true;
     }
     if (s.hasBattery) {
         s.batteryFlowW = dcPowerW.value_or(0.0) - systemPowerW.value_or(0.0);
@@ -203,36 +291,38 @@ PowerSnapshot LinuxPowerReader::read()
     return s;
 }
 
-void LinuxPowerReader::readBattery(PowerSnapshot &s, const BatteryReading &battery, std::optional<bool> externalOnline)
+void LinuxPowerReader::readBattery(PowerSnapshot &s, const BatteryReading &battery, const std::vector<BatteryReading> &packs)
 {
-    s.isExternalConnected = externalOnline ? *externalOnline : battery.status == "Charging";
     s.batteryPercent = stateOfChargePercent(battery).value_or(0);
     s.designCapacityMAH = capacityMAH(battery.fullDesign, battery);
     s.fullChargeCapacityMAH = capacityMAH(battery.full, battery);
     s.remainingCapacityMAH = capacityMAH(battery.now, battery);
-    s.batteryHealthPercent = BatteryHealthSources::capacityHealthPercent(s.fullChargeCapacityMAH, s.designCapacityMAH);
+    s.batteryHealthPercent = counterHealthPercent(battery);
 
-    if (battery.temperatureDeciC && *battery.temperatureDeciC >= -kLargestTemperatureDeciC
-        && *battery.temperatureDeciC <= kLargestTemperatureDeciC) {
-        const double celsius = static_cast<double>(*battery.temperatureDeciC) / 10.0;
-        if (isPlausibleBatteryTemperature(celsius))
-            s.batteryTemperatureC = celsius;
-    }
-    const std::optional<double> voltageUV = asDouble(battery.voltageUV);
-    s.batteryVoltageV = within(voltageUV ? std::optional(*voltageUV / 1e6) : std::nullopt, 0.001, 30.0);
+    s.batteryTemperatureC = packTemperatureC(battery);
+    s.batteryVoltageV = packVoltageV(battery);
 
+    // Each pack keeps its extremes under its own serial; the reading shows the active pack's.
     const std::optional<QString> serial = battery.serialNumber ? std::optional(QString::fromStdString(*battery.serialNumber)) : std::nullopt;
-    const BatteryTemperatureHistory temperatures = m_history.recordTemperature(serial, s.batteryTemperatureC);
-    s.lifetimeMaxTemperatureC = temperatures.maximumC;
-    s.lifetimeMinTemperatureC = temperatures.minimumC;
-    s.lifetimeAverageTemperatureC = temperatures.averageC;
-    const std::optional<double> currentA = currentMagnitudeA(battery);
-    const BatteryElectricalHistory electrical = m_history.recordElectrical(
-        serial, s.batteryVoltageV, currentA ? std::optional(intoBatterySign(battery) * *currentA) : std::nullopt);
-    s.lifetimeMaxPackVoltageV = electrical.maximumVoltageV;
-    s.lifetimeMinPackVoltageV = electrical.minimumVoltageV;
-    s.lifetimeMaxChargeCurrentA = electrical.maximumChargeCurrentA;
-    s.lifetimeMaxDischargeCurrentA = electrical.maximumDischargeCurrentA;
+    for (const BatteryReading &pack : packs) {
+        const std::optional<QString> packSerial = pack.serialNumber ? std::optional(QString::fromStdString(*pack.serialNumber)) : std::nullopt;
+        const bool shown = packSerial == serial;
+        const std::optional<double> temperatureC = shown ? s.batteryTemperatureC : packTemperatureC(pack);
+        const BatteryTemperatureHistory temperatures = m_history.recordTemperature(packSerial, temperatureC);
+        const std::optional<double> voltageV = packVoltageV(pack);
+        const std::optional<double> currentA = currentMagnitudeA(pack);
+        const BatteryElectricalHistory electrical = m_history.recordElectrical(
+            packSerial, voltageV, currentA ? std::optional(intoBatterySign(pack) * *currentA) : std::nullopt);
+        if (!shown)
+            continue;
+        s.lifetimeMaxTemperatureC = temperatures.maximumC;
+        s.lifetimeMinTemperatureC = temperatures.minimumC;
+        s.lifetimeAverageTemperatureC = temperatures.averageC;
+        s.lifetimeMaxPackVoltageV = electrical.maximumVoltageV;
+        s.lifetimeMinPackVoltageV = electrical.minimumVoltageV;
+        s.lifetimeMaxChargeCurrentA = electrical.maximumChargeCurrentA;
+        s.lifetimeMaxDischargeCurrentA = electrical.maximumDischargeCurrentA;
+    }
 
     // Drivers that do not count cycles say 0.
     if (battery.cycleCount && *battery.cycleCount > 0)

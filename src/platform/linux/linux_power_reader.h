@@ -36,7 +36,7 @@ public:
 private:
     std::optional<double> sensor(const char *smcKey, double highest);
     // Every figure of the battery itself, and its lifetime extremes.
-    void readBattery(PowerSnapshot &s, const BatteryReading &battery, std::optional<bool> externalOnline);
+    void readBattery(PowerSnapshot &s, const BatteryReading &battery, const std::vector<BatteryReading> &packs);
 
     std::unique_ptr<SysfsFiles> m_files;
     std::unique_ptr<KeyValueStore> m_preferences;

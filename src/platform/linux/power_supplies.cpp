@@ -36,19 +36,21 @@ PowerSupplies::PowerSupplies(SysfsFiles &files)
                                    at("power_now"), at("voltage_min_design"), at((std::string(prefix) + "now").c_str()),
                                    at((std::string(prefix) + "full").c_str()), at((std::string(prefix) + "full_design").c_str()),
                                    at("cycle_count"), at("temp"), at("time_to_full_now"), at("model_name"), at("serial_number"),
-                                   !charge});
+                                   folder + "type", !charge});
         } else if (isExternalSupplyType(*type)) {
             m_external.push_back({at("online"), at("voltage_now")});
         }
     }
 }
 
-std::optional<BatteryReading> PowerSupplies::readBattery()
+std::vector<BatteryReading> PowerSupplies::readBatteries()
 {
+    std::vector<BatteryReading> readings;
     for (const BatteryFiles &battery : m_batteries) {
         BatteryReading reading;
         reading.status = text(battery.status);
-        if (battery.present.empty() ? !reading.status : integer(battery.present).value_or(0) == 0)
+        // Some drivers have no present file: such a battery is there as long as its folder is.
+        if (battery.present.empty() ? !text(battery.type) : integer(battery.present).value_or(0) == 0)
             continue; // taken out, or gone between two reads
         reading.capacityPercent = integer(battery.capacity);
         reading.voltageUV = integer(battery.voltageNow);
@@ -64,9 +66,9 @@ std::optional<BatteryReading> PowerSupplies::readBattery()
         reading.timeToFullS = integer(battery.timeToFullNow);
         reading.modelName = text(battery.modelName);
         reading.serialNumber = text(battery.serialNumber);
-        return reading;
+        readings.push_back(std::move(reading));
     }
-    return std::nullopt;
+    return readings;
 }
 
 std::optional<bool> PowerSupplies::readExternalOnline()

@@ -38,8 +38,9 @@ public:
     bool hasBattery() const { return !m_batteries.empty(); }
     bool hasExternalSupply() const { return !m_external.empty(); }
 
-    // The first battery that is present now; absent when none is (or it vanished).
-    std::optional<BatteryReading> readBattery();
+    // Every battery that is present now (a missing present file means present), in the order the
+    // kernel lists them; empty when none is (or they vanished).
+    std::vector<BatteryReading> readBatteries();
     // Whether any external supply is online; absent when none can say.
     std::optional<bool> readExternalOnline();
     // The highest input voltage an online supply reports (a USB-C source's negotiated voltage);
@@ -51,7 +52,7 @@ private:
     // Full paths of the attributes a supply has; empty where it has none.
     struct BatteryFiles {
         std::string present, status, capacity, voltageNow, currentNow, powerNow, voltageMinDesign;
-        std::string now, full, fullDesign, cycleCount, temp, timeToFullNow, modelName, serialNumber;
+        std::string now, full, fullDesign, cycleCount, temp, timeToFullNow, modelName, serialNumber, type;
         bool energyUnits = false;
     };
     struct ExternalFiles {
