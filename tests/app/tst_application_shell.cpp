@@ -41,7 +41,7 @@ private:
 
 class FakeMenuBarItem final : public MenuBarItem {
 public:
-    void showReading(const PowerSnapshot &, bool, const QString &) override {}
+    void showReading(const MenuBarReading &) override {}
     QRect geometry() const override { return {}; }
 };
 
