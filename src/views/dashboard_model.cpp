@@ -26,26 +26,26 @@ QString meterCaption(const PowerSnapshot &snapshot)
     return snapshot.isBatterySide() ? localizedText("power.battery_discharge") : QStringLiteral("DC IN");
 }
 
-std::array<TelemetryRowModel, 4> telemetryRows(const PowerSnapshot &s)
+std::vector<ValueRow> telemetryRows(const PowerSnapshot &s)
 {
     if (!s.hasBattery) {
-        return {{
-            {localizedText("power.system_total"), QString::asprintf("%.1f W", s.systemPowerW), ColorRole::primaryText, true},
-            {localizedText("device.power_source"), localizedText("status.external_power"), ColorRole::positive, true},
-            {localizedText("battery.title"), localizedText("battery.not_detected"), ColorRole::secondaryText, true},
-            {localizedText("device.sample_rate"), QStringLiteral("1 Hz"), ColorRole::accent, false},
-        }};
+        return {
+            {localizedText("power.system_total"), QString::asprintf("%.1f W", s.systemPowerW), ColorRole::primaryText},
+            {localizedText("device.power_source"), localizedText("status.external_power"), ColorRole::positive},
+            {localizedText("battery.title"), localizedText("battery.not_detected"), ColorRole::secondaryText},
+            {localizedText("device.sample_rate"), QStringLiteral("1 Hz"), ColorRole::accent},
+        };
     }
     const bool batteryPowered = s.isBatterySide();
     const QString cycles = s.cycleCount ? QString::number(*s.cycleCount) : absentText();
-    return {{
-        {localizedText("battery.cycle_count"), cycles, ColorRole::primaryText, true},
+    return {
+        {localizedText("battery.cycle_count"), cycles, ColorRole::primaryText},
         {localizedText("battery.voltage"), formatFigure(batteryPowered ? displayVoltageV(s) : s.batteryVoltageV, "%.2f V"),
-         ColorRole::primaryText, true},
+         ColorRole::primaryText},
         {localizedText("battery.current"), signedCurrentText(batteryPowered ? s.displayCurrentA() : s.batteryCurrentA),
-         batteryPowered ? ColorRole::dischargePink : ColorRole::positive, true},
-        {localizedText("battery.charge_status"), s.statusText(), ColorRole::accent, false},
-    }};
+         batteryPowered ? ColorRole::dischargePink : ColorRole::positive},
+        {localizedText("battery.charge_status"), s.statusText(), ColorRole::accent},
+    };
 }
 
 } // namespace ferrow

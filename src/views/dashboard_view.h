@@ -5,18 +5,18 @@
 
 #include <QWidget>
 
-class QCheckBox;
-class QLabel;
-class QPushButton;
-
 namespace ferrow {
 
 class BatteryStatusView;
-class FerrowLogoLink;
-class MeterCard;
-class OfficialWebsiteLink;
+class DetailsButton;
+class Divider;
+class MeterCaption;
+class MeterRow;
+class PopoverHeader;
 class PowerFlowView;
-class SnapshotView;
+class SettingsRow;
+class TelemetryCard;
+class ViewFooter;
 
 // The popover's content on a 430 × 560 panel: header, meters, flow diagram, battery card,
 // telemetry, the details button, the two settings with the version, and the website link.
@@ -50,25 +50,18 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void applyPaletteToControls();
-
     FerrowPalette m_palette;
-    SnapshotView *m_header;
-    FerrowLogoLink *m_logo;
-    SnapshotView *m_meterCaption;
-    MeterCard *m_voltageMeter;
-    MeterCard *m_currentMeter;
-    MeterCard *m_powerMeter;
-    PowerFlowView *m_flow;
-    BatteryStatusView *m_battery;
-    SnapshotView *m_telemetry;
-    QCheckBox *m_launchAtLogin;
-    QPushButton *m_launchAtLoginNote;
     bool m_paintsBackground = true;
-    QCheckBox *m_showPower;
-    QLabel *m_version;
-    OfficialWebsiteLink *m_website;
-    QString m_subtitle;
+    PopoverHeader *m_header;
+    MeterRow *m_meters;
+    MeterCaption *m_meterCaption;
+    PowerFlowView *m_flow;
+    Divider *m_flowDivider;
+    BatteryStatusView *m_battery;
+    TelemetryCard *m_telemetry;
+    DetailsButton *m_details;
+    SettingsRow *m_settings;
+    ViewFooter *m_footer;
 };
 
 } // namespace ferrow

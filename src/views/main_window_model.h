@@ -2,6 +2,7 @@
 
 #include "model/power_snapshot.h"
 #include "views/ferrow_palette.h"
+#include "views/value_row.h"
 
 #include <QString>
 
@@ -43,11 +44,6 @@ int cellGridColumns(std::size_t cellCount);
 // How full a cell's bar is: 3.0 V empty, 4.25 V full.
 double cellBarFraction(double volts);
 
-struct ValueRow {
-    QString label;
-    QString value;
-    ColorRole tint = ColorRole::primaryText;
-};
 std::vector<ValueRow> distributionRows(const PowerSnapshot &snapshot);
 QString distributionCaption(const PowerSnapshot &snapshot);
 std::vector<ValueRow> batteryRows(const PowerSnapshot &snapshot);

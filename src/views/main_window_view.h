@@ -9,6 +9,7 @@
 #include <QPropertyAnimation>
 
 #include <map>
+#include <vector>
 
 class QAction;
 class QLabel;
@@ -17,10 +18,16 @@ class QSplitter;
 
 namespace ferrow {
 
-class FerrowLogoLink;
-class MeterCard;
-class OfficialWebsiteLink;
+class BatteryPanel;
+class CellsPanel;
+class ChartPanel;
+class DevicePanel;
+class DistributionPanel;
+class MeterRow;
 class PowerHistoryChart;
+class ReportSidebar;
+class SectionHeading;
+class ViewFooter;
 
 // The details window: a sidebar of the report's five sections and a scrolling column that shows
 // them all. Picking a section scrolls to it; scrolling by hand moves the sidebar's selection.
@@ -44,7 +51,7 @@ public:
     QSplitter *splitter() const { return m_splitter; }
     QAction *sidebarToggle() const { return m_sidebarToggle; }
     QWidget *sectionBlock(MainSection section) const { return m_blocks.at(section); }
-    PowerHistoryChart *historyChart() const { return m_chart; }
+    PowerHistoryChart *historyChart() const;
 
 signals:
     void refreshRequested();
@@ -53,7 +60,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QWidget *buildSidebar();
+    void buildToolbar();
     QWidget *buildDetail();
     void followScroll();
     void setSelection(MainSection section, bool animated);
@@ -65,31 +72,29 @@ private:
     PowerSnapshot m_snapshot = PowerSnapshot::empty();
     MainSection m_selection = MainSection::overview;
     bool m_reduceMotion = false;
-    QSplitter *m_splitter = nullptr;
+    QLabel *m_toolbarTitle = nullptr;
+    QLabel *m_toolbarSubtitle = nullptr;
     QAction *m_sidebarToggle = nullptr;
+    QSplitter *m_splitter = nullptr;
     int m_sidebarWidth = 208; // the width to bring the sidebar back at
+    ReportSidebar *m_sidebar = nullptr;
     QScrollArea *m_scroll = nullptr;
     QPropertyAnimation m_scrollAnimation;
     std::map<MainSection, QWidget *> m_blocks;
-    std::map<MainSection, QWidget *> m_sidebarRows;
+    std::vector<SectionHeading *> m_headings;
     QWidget *m_endSpacer = nullptr;
-    QWidget *m_sidebar = nullptr;
-    FerrowLogoLink *m_logo = nullptr;
-    QWidget *m_footerDivider = nullptr;
-    QWidget *m_detailContent = nullptr;
-    QLabel *m_sidebarStatus = nullptr;
-    QLabel *m_updatedAt = nullptr;
     QLabel *m_overviewTitle = nullptr;
     QLabel *m_overviewSubtitle = nullptr;
+    MeterRow *m_meters = nullptr;
     QLabel *m_meterCaption = nullptr;
     QLabel *m_powerNotice = nullptr;
+    DistributionPanel *m_distribution = nullptr;
+    ChartPanel *m_chart = nullptr;
+    BatteryPanel *m_battery = nullptr;
+    CellsPanel *m_cells = nullptr;
+    DevicePanel *m_device = nullptr;
+    ViewFooter *m_footer = nullptr;
     QLabel *m_version = nullptr;
-    QLabel *m_toolbarTitle = nullptr;
-    QLabel *m_toolbarSubtitle = nullptr;
-    std::vector<MeterCard *> m_meters;
-    PowerHistoryChart *m_chart = nullptr;
-    std::vector<QWidget *> m_paletteViews; // painted pieces that take the palette
-    OfficialWebsiteLink *m_website = nullptr;
 };
 
 } // namespace ferrow

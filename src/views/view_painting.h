@@ -14,6 +14,11 @@ class QPainter;
 namespace ferrow {
 
 // Sizes are in device-independent pixels, the unit every layout here uses.
+
+// A glyph's antialiased edge can fall a point outside its advance, and a child widget clips it: a
+// piece that draws text to its sides is given this much room there as contents margins, and draws
+// inside its contents rect.
+inline constexpr int kInkFringe = 2;
 QFont uiFont(double size, QFont::Weight weight = QFont::Normal);
 QFont monospacedFont(double size, QFont::Weight weight = QFont::Normal);
 // The brand face, for brand figures only; falls back to the system font when not registered.

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "views/ferrow_palette.h"
+
+#include <QWidget>
+
+namespace ferrow {
+
+// A hairline across whatever holds it, in the palette's separator colour.
+class Divider : public QWidget {
+public:
+    explicit Divider(QWidget *parent = nullptr);
+    void setFerrowPalette(const FerrowPalette &palette);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    FerrowPalette m_palette;
+};
+
+} // namespace ferrow

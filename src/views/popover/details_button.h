@@ -1,0 +1,22 @@
+#pragma once
+
+#include "views/ferrow_palette.h"
+
+#include <QAbstractButton>
+
+namespace ferrow {
+
+// The popover's row that opens the details window.
+class DetailsButton : public QAbstractButton {
+public:
+    explicit DetailsButton(QWidget *parent = nullptr);
+    void setFerrowPalette(const FerrowPalette &palette);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    FerrowPalette m_palette;
+};
+
+} // namespace ferrow

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "views/snapshot_view.h"
+
+namespace ferrow {
+
+// The caption under the popover's meters (what they measure), and the hairline that closes them.
+class MeterCaption : public SnapshotView {
+public:
+    explicit MeterCaption(QWidget *parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+} // namespace ferrow

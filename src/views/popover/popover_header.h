@@ -1,0 +1,25 @@
+#pragma once
+
+#include "views/snapshot_view.h"
+
+namespace ferrow {
+
+class FerrowLogoLink;
+
+// The popover's header: the logo (a link), title and subtitle, and the live or waiting status.
+class PopoverHeader : public SnapshotView {
+public:
+    explicit PopoverHeader(QWidget *parent = nullptr);
+
+    void setSubtitle(const QString &subtitle);
+    void setReduceMotion(bool reduceMotion);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    FerrowLogoLink *m_logo;
+    QString m_subtitle;
+};
+
+} // namespace ferrow

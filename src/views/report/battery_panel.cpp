@@ -1,0 +1,65 @@
+#include "views/report/battery_panel.h"
+
+#include "model/localized_text.h"
+#include "views/main_window_model.h"
+#include "views/report/unavailable_note.h"
+#include "views/snapshot_view.h"
+#include "views/value_rows_view.h"
+#include "views/view_painting.h"
+
+#include <QPainter>
+
+namespace ferrow {
+
+// The charge as a figure and a bar, with the battery's state beside the figure.
+class BatteryPanel::Charge : public SnapshotView {
+public:
+    Charge() { setFixedHeight(60); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const FerrowPalette &palette = ferrowPalette();
+        const PowerSnapshot &s = snapshot();
+        painter.translate(contentsRect().topLeft());
+        const double width = contentsRect().width();
+        painter.setPen(palette.primaryText());
+        painter.setFont(uiFont(28, QFont::DemiBold));
+        painter.drawText(QRectF(0, 0, width / 2, 40), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("%1%").arg(s.batteryPercent));
+        painter.setPen(palette.secondaryText());
+        drawFittedText(painter, QRectF(width / 2, 0, width / 2, 40), s.statusText(), uiFont(13), 0.85, Qt::AlignRight);
+        paintProgress(painter, QRectF(0, 44, width, 6), s.batteryPercent / 100.0, kChargeGreen, palette);
+    }
+};
+
+BatteryPanel::BatteryPanel(QWidget *parent)
+    : ReportPanel("battery.title", Glyph::battery, kChargeGreen, parent)
+    , m_charge(new Charge)
+    , m_rows(new ValueRowsView(ValueRowsView::Size::regular))
+    , m_absent(new UnavailableNote(132))
+{
+    m_absent->setText(localizedText("battery.not_detected"), localizedText("battery.not_detected_description"));
+    addContent(m_charge);
+    addContent(m_rows);
+    addContent(m_absent);
+}
+
+void BatteryPanel::setSnapshot(const PowerSnapshot &snapshot)
+{
+    m_charge->setVisible(snapshot.hasBattery);
+    m_rows->setVisible(snapshot.hasBattery);
+    m_absent->setVisible(!snapshot.hasBattery);
+    m_charge->setSnapshot(snapshot);
+    m_rows->setRows(snapshot.hasBattery ? batteryRows(snapshot) : std::vector<ValueRow>{});
+}
+
+void BatteryPanel::setFerrowPalette(const FerrowPalette &palette)
+{
+    ReportPanel::setFerrowPalette(palette);
+    m_charge->setFerrowPalette(palette);
+    m_rows->setFerrowPalette(palette);
+    m_absent->setFerrowPalette(palette);
+}
+
+} // namespace ferrow

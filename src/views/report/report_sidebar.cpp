@@ -1,0 +1,120 @@
+#include "views/report/report_sidebar.h"
+
+#include "model/localized_text.h"
+#include "model/value_text.h"
+#include "views/brand_links.h"
+#include "views/report/sidebar_row.h"
+#include "views/view_painting.h"
+
+#include <QDateTime>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QVBoxLayout>
+
+namespace ferrow {
+namespace {
+
+QColor sidebarBackground(const FerrowPalette &palette)
+{
+    return palette.isDark() ? QColor(44, 44, 48) : QColor(232, 232, 236);
+}
+
+QLabel *label(const QFont &font, const QString &text = QString())
+{
+    auto *l = new QLabel(text);
+    l->setFont(font);
+    return l;
+}
+
+void setTextColor(QLabel *label, const QColor &color)
+{
+    label->setStyleSheet(QStringLiteral("color: %1").arg(color.name(QColor::HexArgb)));
+}
+
+} // namespace
+
+ReportSidebar::ReportSidebar(QWidget *parent)
+    : QWidget(parent)
+    , m_logo(new FerrowLogoLink(34, 8))
+    , m_status(label(uiFont(11)))
+    , m_updatedAt(label(uiFont(10)))
+{
+    setObjectName(QStringLiteral("sidebar"));
+    setMinimumWidth(184);
+    setMaximumWidth(244);
+    setAutoFillBackground(true);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(8, 10, 8, 10);
+    column->setSpacing(2);
+
+    auto *brand = new QHBoxLayout;
+    brand->setContentsMargins(6, 0, 6, 8);
+    brand->setSpacing(10);
+    brand->addWidget(m_logo);
+    auto *brandText = new QVBoxLayout;
+    brandText->setSpacing(0);
+    brandText->setAlignment(Qt::AlignVCenter);
+    brandText->addWidget(label(uiFont(13, QFont::DemiBold), localizedText("FERROW")));
+    m_status->setObjectName(QStringLiteral("sidebarStatus"));
+    m_status->setWordWrap(true); // a narrow sidebar takes a longer status on two lines
+    brandText->addWidget(m_status);
+    brand->addLayout(brandText, 1);
+    column->addLayout(brand);
+
+    const auto addHeader = [&](const char *key) {
+        QLabel *header = label(uiFont(11, QFont::DemiBold), localizedText(key));
+        header->setContentsMargins(8, 10, 8, 4);
+        m_headers.push_back(header);
+        column->addWidget(header);
+    };
+    addHeader("sidebar.monitor");
+    for (const MainSection section : kMainSections) {
+        if (section == MainSection::history)
+            addHeader("sidebar.system");
+        auto *row = new SidebarRow(section);
+        row->setObjectName(QStringLiteral("sidebar.") + QLatin1String(sectionTitleKey(section)));
+        connect(row, &QAbstractButton::clicked, this, [this, section] { emit sectionPicked(section); });
+        m_rows[section] = row;
+        column->addWidget(row);
+    }
+    column->addStretch();
+    m_updatedAt->setObjectName(QStringLiteral("updatedAt"));
+    m_updatedAt->setContentsMargins(8, 0, 8, 0);
+    column->addWidget(m_updatedAt);
+}
+
+void ReportSidebar::setSnapshot(const PowerSnapshot &s)
+{
+    m_status->setText(s.statusText());
+    const QTime time = QDateTime::fromMSecsSinceEpoch(std::chrono::duration_cast<std::chrono::milliseconds>(s.updatedAt.time_since_epoch()).count())
+                           .time();
+    m_updatedAt->setText(localizedFormatText("sidebar.updated_at", timeOfDayText(time, QLocale())));
+}
+
+void ReportSidebar::setFerrowPalette(const FerrowPalette &p)
+{
+    QPalette ground;
+    ground.setColor(QPalette::Window, sidebarBackground(p));
+    setPalette(ground);
+    setTextColor(m_status, p.secondaryText());
+    setTextColor(m_updatedAt, p.tertiaryText());
+    // The headers' grey is ours to choose, so it is one that reads on the sidebar.
+    for (QLabel *header : m_headers)
+        setTextColor(header, readableOn(p.secondaryText(), sidebarBackground(p)));
+    for (auto &[section, row] : m_rows)
+        row->setFerrowPalette(p);
+}
+
+void ReportSidebar::setSelection(MainSection section, bool animated)
+{
+    for (auto &[rowSection, row] : m_rows)
+        row->setSelected(rowSection == section, animated);
+}
+
+void ReportSidebar::setReduceMotion(bool reduceMotion)
+{
+    m_logo->setReduceMotion(reduceMotion);
+}
+
+} // namespace ferrow
