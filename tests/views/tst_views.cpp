@@ -23,6 +23,8 @@
 using namespace ferrow;
 using namespace std::chrono_literals;
 
+Q_DECLARE_METATYPE(ferrow::PowerSnapshot)
+
 namespace {
 
 PowerSnapshot recorded(const char *folder)
@@ -63,6 +65,19 @@ bool hasColour(const QImage &image, const QRect &region, const QColor &colour)
         }
     }
     return false;
+}
+
+// The pieces under root given less height than they ask for although they cannot shrink: a layout
+// squeezing them clips what they draw.
+QStringList squeezed(const QWidget *root)
+{
+    QStringList pieces;
+    for (const QWidget *piece : root->findChildren<QWidget *>()) {
+        if (piece->isVisibleTo(root) && !(piece->sizePolicy().verticalPolicy() & QSizePolicy::ShrinkFlag)
+            && piece->height() < piece->sizeHint().height())
+            pieces << QString::fromLatin1(piece->metaObject()->className()) + u'#' + piece->objectName();
+    }
+    return pieces;
 }
 
 } // namespace
@@ -126,6 +141,7 @@ private slots:
         const QRect gauge = battery->geometry().translated(battery->parentWidget()->pos()).adjusted(10, 24, -10, -40);
         QCOMPARE(hasColour(image, gauge, palette.positive()), gaugeShown);
         QCOMPARE(dashboard.findChild<QLabel *>(QStringLiteral("version"))->text(), QStringLiteral("v1.4.2"));
+        QVERIFY2(squeezed(&dashboard).isEmpty(), qPrintable(squeezed(&dashboard).join(u' ')));
     }
 
     void flowAnimatesOnlyWhileShownAndMoving()
@@ -176,6 +192,45 @@ private slots:
         bar->setValue(0);
         QCOMPARE(window.selection(), MainSection::overview);
         QCOMPARE(bar->value(), 0);
+    }
+
+    // A panel is as tall as the reading's rows, tiles or notes: after a reading that adds or takes
+    // some away, as tall as in a window that showed that reading first, and nothing in it squeezed.
+    void panelsFollowTheirContent_data()
+    {
+        QTest::addColumn<PowerSnapshot>("before");
+        QTest::addColumn<PowerSnapshot>("after");
+        const PowerSnapshot notebook = recorded("notebook-battery-27");
+        const PowerSnapshot desktop = recorded("desktop-26");
+        PowerSnapshot noCells = notebook;
+        noCells.cellVoltagesV.clear();
+        PowerSnapshot moreCells = notebook;
+        moreCells.cellVoltagesV.resize(9, 3.9);
+        moreCells.cellVoltageSource.reset();
+        QTest::newRow("desktop, then a notebook") << desktop << notebook;
+        QTest::newRow("notebook, then a desktop") << notebook << desktop;
+        QTest::newRow("cells gone") << notebook << noCells;
+        QTest::newRow("more cells, no source line") << notebook << moreCells;
+    }
+
+    void panelsFollowTheirContent()
+    {
+        QFETCH(PowerSnapshot, before);
+        QFETCH(PowerSnapshot, after);
+        MainWindowView changed;
+        changed.setSnapshot(before);
+        changed.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&changed));
+        changed.setSnapshot(after);
+        MainWindowView fresh;
+        fresh.setSnapshot(after);
+        fresh.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&fresh));
+        for (const char *name : {"distribution", "batteryPanel", "cellsPanel", "devicePanel"}) {
+            const QWidget *panel = changed.findChild<QWidget *>(QLatin1String(name));
+            QTRY_COMPARE(panel->height(), fresh.findChild<QWidget *>(QLatin1String(name))->height());
+            QVERIFY2(squeezed(panel).isEmpty(), qPrintable(squeezed(panel).join(u' ')));
+        }
     }
 
     // The sidebar starts 208 wide and is dragged by dragW; the detail column fills what is left up
