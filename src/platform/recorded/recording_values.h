@@ -28,7 +28,7 @@ bool isWholeNumber(const QJsonValue &json, double lowest, double highest);
 
 // Untyped values (the power-source descriptions). Read back, whole numbers become integers as the
 // platform would keep them; what JSON cannot hold comes back as something near it: data as its base64
-// text, an unsigned number beyond the signed range as a real, anything without a typed form as absent.
+// text, an unsigned number beyond the signed range as a real, a value without a typed form (null) as such.
 QJsonValue encodeProperty(const PropertyValue &value);
 PropertyValue decodeProperty(const QJsonValue &json);
 
