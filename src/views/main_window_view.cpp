@@ -50,18 +50,6 @@ QIcon glyphIcon(Glyph glyph, const QColor &color)
     return QIcon(pixmap);
 }
 
-QLabel *label(const QFont &font, const QString &text = QString())
-{
-    auto *l = new QLabel(text);
-    l->setFont(font);
-    return l;
-}
-
-void setTextColor(QLabel *label, const QColor &color)
-{
-    label->setStyleSheet(QStringLiteral("color: %1").arg(color.name(QColor::HexArgb)));
-}
-
 } // namespace
 
 MainWindowView::MainWindowView(QWidget *parent)
@@ -126,8 +114,8 @@ void MainWindowView::buildToolbar()
     auto *titleColumn = new QVBoxLayout(titles);
     titleColumn->setContentsMargins(8, 2, 8, 2);
     titleColumn->setSpacing(0);
-    m_toolbarTitle = label(uiFont(13, QFont::DemiBold), localizedText("window.device_details"));
-    m_toolbarSubtitle = label(uiFont(11), localizedText("app.subtitle"));
+    m_toolbarTitle = fontLabel(uiFont(13, QFont::DemiBold), localizedText("window.device_details"));
+    m_toolbarSubtitle = fontLabel(uiFont(11), localizedText("app.subtitle"));
     titleColumn->addWidget(m_toolbarTitle);
     titleColumn->addWidget(m_toolbarSubtitle);
     toolbar->addWidget(titles);
@@ -186,14 +174,14 @@ QWidget *MainWindowView::buildDetail()
         return widget;
     };
 
-    m_overviewTitle = label(uiFont(26, QFont::DemiBold));
-    m_overviewSubtitle = label(uiFont(13));
+    m_overviewTitle = fontLabel(uiFont(26, QFont::DemiBold));
+    m_overviewSubtitle = fontLabel(uiFont(13));
     m_overviewSubtitle->setWordWrap(true);
     block(MainSection::overview, {m_overviewTitle, m_overviewSubtitle});
 
     m_meters = new MeterRow(MeterCard::Size::branded);
-    m_meterCaption = label(uiFont(11));
-    m_powerNotice = label(uiFont(11));
+    m_meterCaption = fontLabel(uiFont(11));
+    m_powerNotice = fontLabel(uiFont(11));
     m_powerNotice->setObjectName(QStringLiteral("powerNotice"));
     m_powerNotice->setWordWrap(true);
     m_powerNotice->hide();
@@ -216,7 +204,7 @@ QWidget *MainWindowView::buildDetail()
 
     m_footer = new ViewFooter(ViewFooter::Kind::window);
     m_footer->setObjectName(QStringLiteral("footer"));
-    m_version = label(uiFont(10));
+    m_version = fontLabel(uiFont(10));
     m_version->setObjectName(QStringLiteral("version"));
     m_footer->addTrailing(m_version);
 

@@ -30,7 +30,6 @@ ValueRowsView::ValueRowsView(Size size, QWidget *parent)
     , m_size(size)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setContentsMargins(kInkFringe, 0, kInkFringe, 0);
 }
 
 void ValueRowsView::setRows(std::vector<ValueRow> rows)

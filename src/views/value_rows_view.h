@@ -20,8 +20,8 @@ public:
 
     void setRows(std::vector<ValueRow> rows);
     void setFerrowPalette(const FerrowPalette &palette);
-    // Values drawn on this ground take the least darker or lighter tone of their colour that reads
-    // on it; for colours a view picks for its own ground rather than the palette's.
+    // Draws each value in the least darker or lighter tone of its colour that reads on ground, for a
+    // view that picks its rows' colours for a ground of its own rather than the palette's.
     void setLegibleOn(std::optional<QColor> ground);
     QSize sizeHint() const override;
 

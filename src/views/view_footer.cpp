@@ -29,18 +29,14 @@ ViewFooter::ViewFooter(Kind kind, QWidget *parent)
     column->setSpacing(0);
     column->addWidget(m_divider);
     column->addLayout(m_line);
-    if (kind == Kind::popover) {
-        column->setContentsMargins(10, 6, 10, 0);
-        m_line->setContentsMargins(0, 0, 0, 0);
-        m_line->addWidget(m_website, 1);
-        m_line->addWidget(m_note, 1);
-    } else {
+    const bool popover = kind == Kind::popover;
+    column->setContentsMargins(popover ? QMargins(10, 6, 10, 0) : QMargins());
+    m_line->setContentsMargins(popover ? QMargins() : QMargins(24, 10, 24, 10));
+    m_line->addWidget(m_website, 1);
+    m_line->addWidget(m_note, 1);
+    if (!popover) {
         // The website keeps to the leading half, so a click far from it opens nothing.
-        column->setContentsMargins(0, 0, 0, 0);
-        m_line->setContentsMargins(24, 10, 24, 10);
         m_website->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        m_line->addWidget(m_website, 1);
-        m_line->addWidget(m_note, 1);
         m_line->addStretch(1);
     }
 }

@@ -1,6 +1,7 @@
 #include "views/view_painting.h"
 
 #include <QFontDatabase>
+#include <QLabel>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
@@ -94,6 +95,18 @@ void paintBottomSeparator(QPainter &painter, const QRectF &rect, const FerrowPal
 {
     // A filled row of pixels rather than a stroked line: no antialiasing, no spans to blend.
     painter.fillRect(QRectF(rect.left(), rect.bottom() - 1, rect.width(), 1), palette.separator());
+}
+
+QLabel *fontLabel(const QFont &font, const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setFont(font);
+    return label;
+}
+
+void setTextColor(QLabel *label, const QColor &color)
+{
+    label->setStyleSheet(QStringLiteral("color: %1").arg(color.name(QColor::HexArgb)));
 }
 
 } // namespace ferrow

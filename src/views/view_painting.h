@@ -9,6 +9,7 @@
 
 #include <functional>
 
+class QLabel;
 class QPainter;
 
 namespace ferrow {
@@ -42,5 +43,9 @@ void paintCardSurface(QPainter &painter, const QRectF &rect, double cornerRadius
 
 // A hairline divider along the bottom of rect.
 void paintBottomSeparator(QPainter &painter, const QRectF &rect, const FerrowPalette &palette);
+
+// The windows' labels: a label in a font, and its text in a colour of the palette's.
+QLabel *fontLabel(const QFont &font, const QString &text = QString());
+void setTextColor(QLabel *label, const QColor &color);
 
 } // namespace ferrow

@@ -16,6 +16,7 @@ TelemetryCard::TelemetryCard(QWidget *parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(10 - kInkFringe, 9, 10 - kInkFringe, 9);
+    m_rows->setContentsMargins(kInkFringe, 0, kInkFringe, 0);
     layout->addWidget(m_rows);
 }
 

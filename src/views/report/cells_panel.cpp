@@ -1,6 +1,7 @@
 #include "views/report/cells_panel.h"
 
 #include "model/localized_text.h"
+#include "model/value_text.h"
 #include "views/main_window_model.h"
 #include "views/report/unavailable_note.h"
 #include "views/view_painting.h"
@@ -10,6 +11,7 @@
 namespace ferrow {
 namespace {
 
+const QColor kCellsAccent(52, 167, 126);
 constexpr double kTileHeight = 72;
 constexpr double kTileGap = 10;
 
@@ -63,7 +65,7 @@ protected:
             painter.setFont(uiFont(11));
             painter.drawText(QRectF(inner.left(), inner.top(), inner.width(), 14), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("S%1").arg(i + 1));
             painter.setPen(m_palette.primaryText());
-            drawFittedText(painter, QRectF(inner.left(), inner.top() + 16, inner.width(), 24), QString::asprintf("%.3f V", m_volts[i]),
+            drawFittedText(painter, QRectF(inner.left(), inner.top() + 16, inner.width(), 24), formatFigure(m_volts[i], "%.3f V"),
                            uiFont(17, QFont::DemiBold), 0.75, Qt::AlignLeft);
             paintProgress(painter, QRectF(inner.left(), inner.bottom() - 5, inner.width(), 5), cellBarFraction(m_volts[i]), kChargeGreen, m_palette);
         }
@@ -75,7 +77,7 @@ private:
 };
 
 CellsPanel::CellsPanel(QWidget *parent)
-    : ReportPanel("cells.status", Glyph::grid, QColor(52, 167, 126), parent)
+    : ReportPanel("cells.status", Glyph::grid, kCellsAccent, parent)
     , m_source(new PanelText(uiFont(11), ColorRole::secondaryText, 0, 16, 22))
     , m_grid(new Grid)
     , m_absent(new UnavailableNote(110))

@@ -29,7 +29,6 @@ public:
 
     // Subclasses pass the palette on to their content.
     virtual void setFerrowPalette(const FerrowPalette &palette);
-    const FerrowPalette &ferrowPalette() const { return m_palette; }
 
 protected:
     // Adds a piece under the previous one, with room either side for its ink (see kInkFringe).

@@ -20,25 +20,13 @@ QColor sidebarBackground(const FerrowPalette &palette)
     return palette.isDark() ? QColor(44, 44, 48) : QColor(232, 232, 236);
 }
 
-QLabel *label(const QFont &font, const QString &text = QString())
-{
-    auto *l = new QLabel(text);
-    l->setFont(font);
-    return l;
-}
-
-void setTextColor(QLabel *label, const QColor &color)
-{
-    label->setStyleSheet(QStringLiteral("color: %1").arg(color.name(QColor::HexArgb)));
-}
-
 } // namespace
 
 ReportSidebar::ReportSidebar(QWidget *parent)
     : QWidget(parent)
     , m_logo(new FerrowLogoLink(34, 8))
-    , m_status(label(uiFont(11)))
-    , m_updatedAt(label(uiFont(10)))
+    , m_status(fontLabel(uiFont(11)))
+    , m_updatedAt(fontLabel(uiFont(10)))
 {
     setObjectName(QStringLiteral("sidebar"));
     setMinimumWidth(184);
@@ -55,7 +43,7 @@ ReportSidebar::ReportSidebar(QWidget *parent)
     auto *brandText = new QVBoxLayout;
     brandText->setSpacing(0);
     brandText->setAlignment(Qt::AlignVCenter);
-    brandText->addWidget(label(uiFont(13, QFont::DemiBold), localizedText("FERROW")));
+    brandText->addWidget(fontLabel(uiFont(13, QFont::DemiBold), localizedText("FERROW")));
     m_status->setObjectName(QStringLiteral("sidebarStatus"));
     m_status->setWordWrap(true); // a narrow sidebar takes a longer status on two lines
     brandText->addWidget(m_status);
@@ -63,7 +51,7 @@ ReportSidebar::ReportSidebar(QWidget *parent)
     column->addLayout(brand);
 
     const auto addHeader = [&](const char *key) {
-        QLabel *header = label(uiFont(11, QFont::DemiBold), localizedText(key));
+        QLabel *header = fontLabel(uiFont(11, QFont::DemiBold), localizedText(key));
         header->setContentsMargins(8, 10, 8, 4);
         m_headers.push_back(header);
         column->addWidget(header);
