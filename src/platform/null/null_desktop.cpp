@@ -1,7 +1,5 @@
 #include "platform/native_desktop.h"
 
-#include <QCoreApplication>
-
 // A desktop this program has no backend for: the toolkit's tray icon where there is a tray, no
 // sleep or wake signals, and a login item that is never on.
 
@@ -16,11 +14,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<MenuBarItem> createNativeMenuBarItem()
-{
-    return nullptr;
-}
-
 std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
 {
     return std::make_unique<SleepWakeNotifier>();
@@ -29,33 +22,6 @@ std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
 std::unique_ptr<LoginItem> createLoginItem()
 {
     return std::make_unique<NoLoginItem>();
-}
-
-DeclaredVersions declaredVersions()
-{
-    return {QCoreApplication::applicationVersion(), std::nullopt};
-}
-
-std::optional<bool> systemReducesMotion()
-{
-    return std::nullopt;
-}
-
-void prepareApplication()
-{
-}
-
-void bringApplicationToFront()
-{
-}
-
-void onApplicationReopen(std::function<void()>)
-{
-}
-
-bool usePopoverMaterial(QWidget &)
-{
-    return false;
 }
 
 } // namespace ferrow
