@@ -33,7 +33,7 @@ std::optional<std::int64_t> inRange(std::optional<std::int64_t> value, std::int6
 
 bool isValidCapacity(std::optional<std::int64_t> mAh)
 {
-    return inRange(mAh, 1, 100'000).has_value();
+    return inRange(mAh, 1, kLargestCapacityMAH).has_value();
 }
 
 std::optional<std::int64_t> firstValidCapacity(std::optional<std::int64_t> preferred, std::optional<std::int64_t> fallback)
@@ -278,7 +278,7 @@ void PowerSensorReader::readTimeToFull(const Reading &r, PowerSnapshot &s)
     std::optional<std::int64_t> reportedMinutes = integerAt(r.props, "AvgTimeToFull");
     if (!reportedMinutes)
         reportedMinutes = integerAt(r.batteryData, "AvgTimeToFull");
-    if (inRange(reportedMinutes, 1, 65'534))
+    if (inRange(reportedMinutes, 1, kLongestReportedMinutesToFull))
         s.estimatedMinutesToFull = reportedMinutes;
     else if (s.isCharging && s.batteryChargePowerW >= kEstimateMinimumChargeW && s.fullChargeCapacityMAH)
         s.estimatedMinutesToFull = estimateMinutesToFull(r.voltageMV, r.remainingMAH, *s.fullChargeCapacityMAH, s.batteryChargePowerW);

@@ -20,6 +20,10 @@ inline constexpr double kChargingOverrideW = 0.5;
 inline constexpr double kEstimateMinimumChargeW = 0.3;
 // The largest battery current a reading shows.
 inline constexpr double kMaximumBatteryCurrentA = 100.0;
+// A capacity beyond this is a garbled figure, not a battery.
+inline constexpr std::int64_t kLargestCapacityMAH = 100'000;
+// A battery's own time to full up to this; beyond it (65535 is "no estimate") the reading estimates.
+inline constexpr std::int64_t kLongestReportedMinutesToFull = 65'534;
 
 inline std::optional<double> within(std::optional<double> value, double lowest, double highest)
 {

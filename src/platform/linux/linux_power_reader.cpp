@@ -52,7 +52,7 @@ std::optional<std::int64_t> capacityMAH(std::optional<std::int64_t> value, const
         mAh = *micro / *designUV * 1000.0;
     }
     const std::int64_t rounded = std::llround(mAh);
-    return rounded >= 1 && rounded <= 100'000 ? std::optional(rounded) : std::nullopt;
+    return rounded >= 1 && rounded <= kLargestCapacityMAH ? std::optional(rounded) : std::nullopt;
 }
 
 // The battery's current in A without its sign: its own, or its power over its voltage.
@@ -278,7 +278,7 @@ PowerSnapshot LinuxPowerReader::read()
         // Time to full: the battery's own figure when it gives one, else an estimate while charging.
         const std::optional<std::int64_t> reportedS = battery->timeToFullS;
         const std::int64_t reportedMinutes = reportedS && *reportedS > 0 && *reportedS <= kLongestTimeToFullS ? (*reportedS + 30) / 60 : 0;
-        if (reportedMinutes >= 1 && reportedMinutes <= 65'534)
+        if (reportedMinutes >= 1 && reportedMinutes <= kLongestReportedMinutesToFull)
             s.estimatedMinutesToFull = reportedMinutes;
         else if (s.isCharging && s.batteryChargePowerW >= kEstimateMinimumChargeW && s.fullChargeCapacityMAH)
             if (const std::optional<double> energyWh = energyToFullWh(*battery, s.batteryVoltageV))
