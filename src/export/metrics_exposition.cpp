@@ -5,7 +5,6 @@
 #include <QLocale>
 
 #include <cmath>
-#include <span>
 #include <vector>
 
 namespace ferrow {
@@ -140,21 +139,25 @@ QByteArray metricsExposition(const PowerSnapshot *reading, QStringView version)
     Exposition out;
     out.text.reserve(8192); // a full reading takes about 7 KB
     if (reading) {
-        const std::span<const SnapshotField> fields = snapshotFields();
         // Consecutive fields of one metric make one family.
-        for (std::size_t first = 0; first < fields.size();) {
-            std::size_t end = first;
-            std::vector<Sample> samples;
-            while (end < fields.size() && fields[end].metric && fields[first].metric
-                   && QByteArrayView(fields[end].metric) == QByteArrayView(fields[first].metric))
-                addSamples(samples, fields[end++], *reading);
-            if (end == first) { // not a metric
-                ++first;
+        const SnapshotField *family = nullptr;
+        std::vector<Sample> samples;
+        const auto writeFamily = [&] {
+            if (family)
+                out.gauge(family->metric, family->help, samples);
+            family = nullptr;
+            samples.clear();
+        };
+        for (const SnapshotField &field : snapshotFields()) {
+            if (family && (!field.metric || QByteArrayView(family->metric) != QByteArrayView(field.metric)))
+                writeFamily();
+            if (!field.metric)
                 continue;
-            }
-            out.gauge(fields[first].metric, fields[first].help, samples);
-            first = end;
+            if (!family)
+                family = &field;
+            addSamples(samples, field, *reading);
         }
+        writeFamily();
     }
     out.gauge("ferrow_build_info", "The exporter's version.", {{label("version", version), 1.0}});
     return out.text;
