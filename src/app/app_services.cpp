@@ -1,10 +1,8 @@
 #include "app/app_services.h"
 
-#include "model/localized_text.h"
 #include "model/value_text.h"
 #include "platform/native_desktop.h"
 
-#include <QCoreApplication>
 #include <QFontDatabase>
 
 namespace ferrow {

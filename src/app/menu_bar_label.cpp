@@ -13,9 +13,9 @@
 
 namespace ferrow {
 
-Glyph menuBarGlyph(const PowerSnapshot &snapshot)
+Glyph menuBarGlyph(const MenuBarReading &reading)
 {
-    return snapshot.isExternalConnected ? Glyph::bolt : Glyph::battery;
+    return reading.onExternalPower ? Glyph::bolt : Glyph::battery;
 }
 
 QString menuBarFigureText(const PowerSnapshot &snapshot)
@@ -54,7 +54,7 @@ QIcon renderTrayIcon(const MenuBarReading &reading)
     const QColor tile(28, 28, 32, 235);
     const QColor ink(Qt::white);
     const QString figure = trayIconFigure(reading.powerW);
-    const Glyph glyph = reading.onExternalPower ? Glyph::bolt : Glyph::battery;
+    const Glyph glyph = menuBarGlyph(reading);
     QIcon icon;
     for (const int side : {16, 22, 24, 32, 48}) { // what panels ask for; larger ones cost fills for nothing
         QPixmap pixmap(side, side);

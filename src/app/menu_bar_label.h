@@ -11,7 +11,7 @@ namespace ferrow {
 
 // The menu-bar item's content: the bolt on external power, the battery otherwise; the headline
 // figure as "%.1f W" (or "— W" before there is one).
-Glyph menuBarGlyph(const PowerSnapshot &snapshot);
+Glyph menuBarGlyph(const MenuBarReading &reading);
 QString menuBarFigureText(const PowerSnapshot &snapshot);
 // The figure as it fits inside a square tray icon: one decimal below 10 W, whole watts above.
 QString trayIconFigure(std::optional<double> powerW);

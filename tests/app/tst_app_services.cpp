@@ -89,7 +89,7 @@ private slots:
         s.dcPowerW = dcPowerW;
         s.batteryFlowW = flowW;
         QCOMPARE(menuBarFigureText(s), figure);
-        QCOMPARE(menuBarGlyph(s) == Glyph::bolt, bolt);
+        QCOMPARE(menuBarGlyph(menuBarReading(s, true, {})) == Glyph::bolt, bolt);
     }
 
     void trayIconFigure_data()
