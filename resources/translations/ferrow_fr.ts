@@ -454,5 +454,21 @@
         <source>Safety protection events</source>
         <translation>Événements de protection</translation>
     </message>
+    <message id="battery.packs">
+        <source>Batteries</source>
+        <translation>Batteries</translation>
+    </message>
+    <message id="battery.pack_charge">
+        <source>Charge</source>
+        <translation>Charge</translation>
+    </message>
+    <message id="power.usb_c_contract">
+        <source>USB-C %1 V · %2 A</source>
+        <translation>USB-C %1 V · %2 A</translation>
+    </message>
+    <message id="power.usb_c_voltage">
+        <source>USB-C %1 V</source>
+        <translation>USB-C %1 V</translation>
+    </message>
 </context>
 </TS>

@@ -453,5 +453,21 @@
         <source>Safety protection events</source>
         <translation>安全保護事件</translation>
     </message>
+    <message id="battery.packs">
+        <source>Batteries</source>
+        <translation>電池</translation>
+    </message>
+    <message id="battery.pack_charge">
+        <source>Charge</source>
+        <translation>電量</translation>
+    </message>
+    <message id="power.usb_c_contract">
+        <source>USB-C %1 V · %2 A</source>
+        <translation>USB-C %1 V · %2 A</translation>
+    </message>
+    <message id="power.usb_c_voltage">
+        <source>USB-C %1 V</source>
+        <translation>USB-C %1 V</translation>
+    </message>
 </context>
 </TS>

@@ -195,7 +195,7 @@ void ApplicationShell::updateTrayItem()
         return;
     const PowerSnapshot &snapshot = m_monitor->snapshot();
     const QString figure = menuBarFigureText(snapshot) + QStringLiteral(" \u00B7 ") + snapshot.statusText();
-    m_menuBarItem->showReading(menuBarReading(snapshot, readPreferences(m_settings).showPowerInMenuBar, localizedFormatText(m_readsSimulation ? "tray.tooltip_simulated" : "tray.tooltip", figure)));
+    m_menuBarItem->showReading(menuBarReading(snapshot, readPreferences(m_settings).showPowerInMenuBar, localizedFormatText(m_readsSimulation ? "tray.tooltip_simulated" : "tray.tooltip", {figure})));
 }
 
 void ApplicationShell::togglePopover()

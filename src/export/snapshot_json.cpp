@@ -40,6 +40,44 @@ QJsonValue jsonValue(const FieldValue &value)
     return std::visit(Visitor{}, value);
 }
 
+QJsonValue optionalJson(const std::optional<double> &value)
+{
+    return value ? number(*value) : QJsonValue(QJsonValue::Null);
+}
+
+QJsonValue optionalJson(const std::optional<std::int64_t> &value)
+{
+    return value ? QJsonValue(static_cast<qint64>(*value)) : QJsonValue(QJsonValue::Null);
+}
+
+QJsonValue optionalJson(const std::optional<QString> &value)
+{
+    return value ? QJsonValue(*value) : QJsonValue(QJsonValue::Null);
+}
+
+QJsonObject packToJson(const BatteryPack &pack)
+{
+    return {
+        {QStringLiteral("name"), pack.name},
+        {QStringLiteral("model"), optionalJson(pack.model)},
+        {QStringLiteral("serial"), optionalJson(pack.serial)},
+        {QStringLiteral("percent"), static_cast<qint64>(pack.percent)},
+        {QStringLiteral("flowW"), optionalJson(pack.flowW)},
+        {QStringLiteral("healthPercent"), optionalJson(pack.healthPercent)},
+        {QStringLiteral("cycleCount"), optionalJson(pack.cycleCount)},
+        {QStringLiteral("designCapacityMAH"), optionalJson(pack.designCapacityMAH)},
+        {QStringLiteral("fullChargeCapacityMAH"), optionalJson(pack.fullChargeCapacityMAH)},
+        {QStringLiteral("temperatureC"), optionalJson(pack.temperatureC)},
+        {QStringLiteral("voltageV"), optionalJson(pack.voltageV)},
+        {QStringLiteral("lifetimeMaxTemperatureC"), optionalJson(pack.lifetimeMaxTemperatureC)},
+        {QStringLiteral("lifetimeMinTemperatureC"), optionalJson(pack.lifetimeMinTemperatureC)},
+        {QStringLiteral("lifetimeMaxPackVoltageV"), optionalJson(pack.lifetimeMaxPackVoltageV)},
+        {QStringLiteral("lifetimeMinPackVoltageV"), optionalJson(pack.lifetimeMinPackVoltageV)},
+        {QStringLiteral("lifetimeMaxChargeCurrentA"), optionalJson(pack.lifetimeMaxChargeCurrentA)},
+        {QStringLiteral("lifetimeMaxDischargeCurrentA"), optionalJson(pack.lifetimeMaxDischargeCurrentA)},
+    };
+}
+
 } // namespace
 
 QJsonObject snapshotToJson(const PowerSnapshot &s)
@@ -59,6 +97,11 @@ QJsonObject snapshotToJson(const PowerSnapshot &s)
         nested.insert(name.sliced(dot + 1), jsonValue(field.value(s)));
         json.insert(outer, nested);
     }
+    // Only a machine with several packs lists them; their sum is the battery above.
+    QJsonArray packs;
+    for (const BatteryPack &pack : s.batteryPacks)
+        packs.append(packToJson(pack));
+    json.insert(QStringLiteral("batteryPacks"), packs);
     return json;
 }
 

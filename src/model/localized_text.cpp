@@ -30,10 +30,15 @@ QString localizedCount(const char *key, std::int64_t count)
     return qtTrId(key, static_cast<int>(std::clamp<std::int64_t>(count, 0, std::numeric_limits<int>::max())));
 }
 
-QString localizedFormatText(const char *key, const QString &argument)
+QString localizedFormatText(const char *key, std::initializer_list<QString> arguments)
 {
-    const QString text = qtTrId(key);
-    return text.contains(u'%') ? text.arg(argument) : text;
+    QString text = qtTrId(key);
+    for (const QString &argument : arguments) {
+        if (!text.contains(u'%'))
+            break;
+        text = text.arg(argument);
+    }
+    return text;
 }
 
 } // namespace ferrow

@@ -16,8 +16,8 @@ QString localizedFormat(const char *key, std::initializer_list<std::int64_t> arg
 // A count in the key's plural form for it, its %Ln placeholder filled in the current locale.
 QString localizedCount(const char *key, std::int64_t count);
 
-// The key's text with its one %1 placeholder filled by a text.
-QString localizedFormatText(const char *key, const QString &argument);
+// The key's text with its %1, %2 ... placeholders filled by texts.
+QString localizedFormatText(const char *key, std::initializer_list<QString> arguments);
 
 // The one absent-value text of every view.
 inline constexpr char16_t kAbsentText[] = u"\u2014";

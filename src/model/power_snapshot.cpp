@@ -90,11 +90,6 @@ bool PowerSnapshot::isBatterySide() const
     return !isCharging && batteryFlowW < -kBatteryFlowDeadBandW;
 }
 
-double PowerSnapshot::shownBatteryFlowW() const
-{
-    return std::fabs(batteryFlowW) < kBatteryFlowDeadBandW ? 0.0 : batteryFlowW;
-}
-
 std::optional<double> PowerSnapshot::displayPowerW() const
 {
     if (!isBatterySide())

@@ -12,6 +12,12 @@ namespace ferrow {
 // A battery flow smaller than this, either way, reads as idle.
 inline constexpr double kBatteryFlowDeadBandW = 0.05;
 
+// A battery's flow as shown: below the dead band it is neither charging nor discharging.
+inline double shownFlowW(double flowW)
+{
+    return flowW < kBatteryFlowDeadBandW && flowW > -kBatteryFlowDeadBandW ? 0.0 : flowW;
+}
+
 // Wall-clock time with sub-second precision; the history's gap rule needs it.
 using WallTime = std::chrono::system_clock::time_point;
 
@@ -35,6 +41,30 @@ enum class BatteryCellSource { registry, smc };
 
 std::optional<BatteryCellSource> batteryCellSourceFromRaw(QStringView raw);
 QString rawValue(BatteryCellSource source);
+
+// One of several packs in a machine that has more than one (an internal and an external battery),
+// with its own figures; the reading's battery fields describe them together.
+struct BatteryPack {
+    QString name; // the system's name for it, "BAT0"
+    std::optional<QString> model;
+    std::optional<QString> serial;
+    std::int64_t percent = 0;
+    std::optional<double> flowW; // positive into the pack
+    std::optional<std::int64_t> healthPercent;
+    std::optional<std::int64_t> cycleCount;
+    std::optional<std::int64_t> designCapacityMAH;
+    std::optional<std::int64_t> fullChargeCapacityMAH;
+    std::optional<double> temperatureC;
+    std::optional<double> voltageV;
+    std::optional<double> lifetimeMaxTemperatureC;
+    std::optional<double> lifetimeMinTemperatureC;
+    std::optional<double> lifetimeMaxPackVoltageV;
+    std::optional<double> lifetimeMinPackVoltageV;
+    std::optional<double> lifetimeMaxChargeCurrentA;
+    std::optional<double> lifetimeMaxDischargeCurrentA;
+
+    bool operator==(const BatteryPack &) const = default;
+};
 
 // One complete reading of the machine's power state. Equality is field by field with IEEE
 // semantics, so a NaN anywhere makes a snapshot unequal to itself.
@@ -78,6 +108,7 @@ struct PowerSnapshot {
     bool isCharging = false;
     bool isDataAvailable = false;
     std::optional<QString> adapterDescription;
+    std::vector<BatteryPack> batteryPacks; // empty unless the machine has more than one
     WallTime updatedAt;
 
     bool operator==(const PowerSnapshot &) const = default;
@@ -88,8 +119,7 @@ struct PowerSnapshot {
     // True when the headline figures come from the battery rather than the external input.
     bool isBatterySide() const;
 
-    // The battery's flow as shown: below the dead band it is neither charging nor discharging.
-    double shownBatteryFlowW() const;
+    double shownBatteryFlowW() const { return shownFlowW(batteryFlowW); }
     std::optional<double> displayPowerW() const;
     std::optional<double> displayCurrentA() const;
 

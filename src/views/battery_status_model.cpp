@@ -10,14 +10,19 @@ namespace ferrow {
 
 QString batteryHealthText(const PowerSnapshot &s)
 {
-    if (!s.batteryHealthPercent)
+    return batteryHealthText(s.batteryHealthPercent, s.batteryHealthCondition);
+}
+
+QString batteryHealthText(std::optional<std::int64_t> percent, std::optional<BatteryHealthCondition> condition)
+{
+    if (!percent)
         return absentText();
-    if (!s.batteryHealthCondition)
-        return QString::number(*s.batteryHealthPercent) + u'%';
+    if (!condition)
+        return QString::number(*percent) + u'%';
     QString text = localizedText("battery.health_value");
     if (!text.contains(u'%'))
         return text;
-    return text.arg(static_cast<qlonglong>(*s.batteryHealthPercent)).arg(localizedName(*s.batteryHealthCondition));
+    return text.arg(static_cast<qlonglong>(*percent)).arg(localizedName(*condition));
 }
 
 QString batteryTemperatureText(std::optional<double> celsius)

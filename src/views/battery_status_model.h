@@ -10,6 +10,7 @@
 namespace ferrow {
 
 QString batteryHealthText(const PowerSnapshot &snapshot);
+QString batteryHealthText(std::optional<std::int64_t> percent, std::optional<BatteryHealthCondition> condition);
 QString batteryTemperatureText(std::optional<double> celsius);
 // How much of gauge segment index (0..9) is filled at this charge level, 0 to 1.
 double segmentFillFraction(std::int64_t level, int index);

@@ -17,6 +17,11 @@ namespace {
 constexpr double kFollowBand = 52;
 const QString kBullet = QStringLiteral("\u2022");
 
+ColorRole flowTint(double shownFlowW)
+{
+    return shownFlowW > 0 ? ColorRole::positive : shownFlowW < 0 ? ColorRole::dischargePink : ColorRole::primaryText;
+}
+
 
 } // namespace
 
@@ -76,9 +81,14 @@ QString batteryPowerText(const PowerSnapshot &s)
 
 QString maskedSerial(const PowerSnapshot &s)
 {
-    if (!s.hasBattery || !s.batterySerial || s.batterySerial->isEmpty())
+    return s.hasBattery ? maskedSerial(s.batterySerial) : absentText();
+}
+
+QString maskedSerial(const std::optional<QString> &optionalSerial)
+{
+    if (!optionalSerial || optionalSerial->isEmpty())
         return absentText();
-    const QString &serial = *s.batterySerial;
+    const QString &serial = *optionalSerial;
     if (serial.size() < 9)
         return kBullet.repeated(serial.size());
     return serial.left(4) + kBullet.repeated(4) + serial.right(4);
@@ -122,11 +132,10 @@ std::vector<ValueRow> distributionRows(const PowerSnapshot &s)
         {localizedText("power.dc_input"), QString::asprintf("%.1f W", s.dcPowerW)},
         {localizedText("power.system_total"), QString::asprintf("%.1f W", s.systemPowerW)},
     };
-    if (s.hasBattery) {
-        const double flowW = s.shownBatteryFlowW();
-        rows.push_back({localizedText("power.battery_power"), batteryPowerText(s),
-                        flowW > 0 ? ColorRole::positive : flowW < 0 ? ColorRole::dischargePink : ColorRole::primaryText});
-    }
+    if (s.hasBattery)
+        rows.push_back({localizedText("power.battery_power"), batteryPowerText(s), flowTint(s.shownBatteryFlowW())});
+    if (s.adapterDescription && !s.adapterDescription->isEmpty())
+        rows.push_back({localizedText("power.adapter"), *s.adapterDescription});
     return rows;
 }
 
@@ -168,6 +177,33 @@ std::vector<ValueRow> lifetimeRows(const PowerSnapshot &s)
         {localizedText("history.max_charge_current"), formatFigure(s.lifetimeMaxChargeCurrentA, "%.3f A")},
         {localizedText("history.max_discharge_current"), formatFigure(s.lifetimeMaxDischargeCurrentA, "%.3f A")},
         {localizedText("history.safety_protection_count"), countText(s.batterySafetyProtectionCount)},
+    };
+}
+
+QString batteryPackTitle(const BatteryPack &pack)
+{
+    return pack.model && !pack.model->isEmpty() ? pack.name + QStringLiteral(" \u00B7 ") + *pack.model : pack.name;
+}
+
+std::vector<ValueRow> batteryPackRows(const BatteryPack &pack)
+{
+    const std::optional<double> flowW = pack.flowW ? std::optional(shownFlowW(*pack.flowW)) : std::nullopt;
+    return {
+        {localizedText("battery.pack_charge"), QStringLiteral("%1%").arg(pack.percent), ColorRole::positive},
+        {localizedText("power.battery_power"), flowW ? signedWattsText(*flowW) : absentText(), flowTint(flowW.value_or(0))},
+        {localizedText("battery.health"), batteryHealthText(pack.healthPercent, std::nullopt)},
+        {localizedText("battery.cycle_count"), countText(pack.cycleCount)},
+        {localizedText("battery.temperature"), batteryTemperatureText(pack.temperatureC)},
+        {localizedText("battery.voltage"), formatFigure(pack.voltageV, "%.3f V")},
+        {localizedText("battery.design_capacity"), capacityText(pack.designCapacityMAH)},
+        {localizedText("battery.full_charge_capacity"), capacityText(pack.fullChargeCapacityMAH)},
+        {localizedText("device.battery_serial"), maskedSerial(pack.serial)},
+        {localizedText("history.max_battery_temperature"), formatFigure(pack.lifetimeMaxTemperatureC, "%.1f \u00B0C")},
+        {localizedText("history.min_battery_temperature"), formatFigure(pack.lifetimeMinTemperatureC, "%.1f \u00B0C")},
+        {localizedText("history.max_pack_voltage"), formatFigure(pack.lifetimeMaxPackVoltageV, "%.3f V")},
+        {localizedText("history.min_pack_voltage"), formatFigure(pack.lifetimeMinPackVoltageV, "%.3f V")},
+        {localizedText("history.max_charge_current"), formatFigure(pack.lifetimeMaxChargeCurrentA, "%.3f A")},
+        {localizedText("history.max_discharge_current"), formatFigure(pack.lifetimeMaxDischargeCurrentA, "%.3f A")},
     };
 }
 

@@ -35,6 +35,7 @@ const char *overviewSubtitleKey(const PowerSnapshot &snapshot);
 QString batteryPowerText(const PowerSnapshot &snapshot);
 // The first and last four characters of the serial with bullets between, or bullets alone.
 QString maskedSerial(const PowerSnapshot &snapshot);
+QString maskedSerial(const std::optional<QString> &serial);
 // Minutes as minutes, hours and minutes, or days and hours.
 QString durationText(std::optional<std::int64_t> minutes);
 QString capacityText(std::optional<std::int64_t> mAh);
@@ -49,5 +50,8 @@ QString distributionCaption(const PowerSnapshot &snapshot);
 std::vector<ValueRow> batteryRows(const PowerSnapshot &snapshot);
 std::vector<ValueRow> deviceRows(const PowerSnapshot &snapshot);
 std::vector<ValueRow> lifetimeRows(const PowerSnapshot &snapshot);
+// "BAT0 · 01AV423": the system's name for a pack and its model.
+QString batteryPackTitle(const BatteryPack &pack);
+std::vector<ValueRow> batteryPackRows(const BatteryPack &pack);
 
 } // namespace ferrow

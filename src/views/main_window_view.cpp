@@ -244,7 +244,7 @@ PowerHistoryChart *MainWindowView::historyChart() const
 
 void MainWindowView::setVersion(const QString &version)
 {
-    m_version->setText(localizedFormatText("app.version", version));
+    m_version->setText(localizedFormatText("app.version", {version}));
 }
 
 void MainWindowView::setPowerNotice(const QString &notice)

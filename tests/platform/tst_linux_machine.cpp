@@ -1,3 +1,4 @@
+#include "app/text_table.h"
 #include "export/snapshot_json.h"
 #include "platform/common/in_memory_key_value_store.h"
 #include "platform/linux/linux_power_reader.h"
@@ -85,6 +86,8 @@ class LinuxMachineTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QVERIFY(installTextTable(*QCoreApplication::instance())); }
+
     // Each fixture's values worked out by hand from its files, then the same trees with odd files:
     // "edits" are made before the first reading, "betweenReads" before the second.
     void readings_data() { addJsonRows("sysfs-readings.json"); }

@@ -203,6 +203,21 @@ private slots:
         QTest::newRow("serial empty") << serial(true, QString()) << dash;
         QTest::newRow("serial absent") << serial(true, std::nullopt) << dash;
         QTest::newRow("serial without battery") << serial(false, QStringLiteral("ABCDEFGHIJ")) << dash;
+        const auto pack = [](std::optional<QString> model, std::optional<double> flowW) {
+            BatteryPack p;
+            p.name = QStringLiteral("BAT0");
+            p.model = model;
+            p.flowW = flowW;
+            return p;
+        };
+        QTest::newRow("pack with its model") << batteryPackTitle(pack(QStringLiteral("01AV421"), 0)) << QStringLiteral("BAT0 \u00B7 01AV421");
+        QTest::newRow("pack without a model") << batteryPackTitle(pack(QString(), 0)) << QStringLiteral("BAT0");
+        QTest::newRow("pack resting in the dead band") << batteryPackRows(pack(std::nullopt, -0.04))[1].value << QStringLiteral("0.0 W");
+        QTest::newRow("pack discharging") << batteryPackRows(pack(std::nullopt, -3.0))[1].value << QStringLiteral("-3.0 W");
+        QTest::newRow("pack flow unknown") << batteryPackRows(pack(std::nullopt, std::nullopt))[1].value << dash;
+        PowerSnapshot described;
+        described.adapterDescription = QStringLiteral("USB-C 5 V \u00B7 3 A");
+        QTest::newRow("adapter described") << distributionRows(described).back().value << *described.adapterDescription;
         QTest::newRow("59 minutes") << durationText(59) << localizedFormat("duration.minutes", {59});
         QTest::newRow("60 minutes") << durationText(60) << localizedFormat("duration.hours_minutes", {1, 0});
         QTest::newRow("1439 minutes") << durationText(1439) << localizedFormat("duration.hours_minutes", {23, 59});

@@ -10,6 +10,7 @@
 #include "app/text_table.h"
 #include "platform/recorded/recorded_machine.h"
 #include "model/power_history.h"
+#include "platform/native_machine.h"
 #include "platform/simulated/simulated_machine.h"
 #include "sources/power_sensor_reader.h"
 #include "model/localized_text.h"
@@ -69,37 +70,63 @@ void waitFor(int milliseconds)
     loop.exec();
 }
 
+// The window at each section, written as main-NAME-SCHEME-SECTION.png; the number written, or -1.
+int renderMainWindow(const QString &output, const QString &name, const SimulatedRun &run, ColorScheme scheme, int width, QTextStream &err)
+{
+    MainWindowView window;
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    window.setFerrowPalette(FerrowPalette{scheme});
+    window.setSnapshot(run.snapshot);
+    window.setHistory(run.history);
+    window.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+    if (width > 0)
+        window.resize(width, window.height());
+    window.show();
+    waitFor(50);
+    int written = 0;
+    for (const MainSection section : kMainSections) {
+        window.pickSection(section);
+        waitFor(420); // the scroll animation
+        const QString path = QStringLiteral("%1/main-%2-%3-%4.png")
+                                 .arg(output, name, scheme == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light"),
+                                      QString::fromLatin1(sectionTitleKey(section)).section(u'.', 1));
+        if (!render(window, 1.0, path)) {
+            err << "render_views: cannot write " << path << Qt::endl;
+            return -1;
+        }
+        ++written;
+    }
+    return written;
+}
+
 int renderMainWindows(const QString &output, int width, QTextStream &err)
 {
     int written = 0;
     for (const auto &[name, kind] : {std::pair{"notebook", SimulatedPowerModel::Kind::notebook}, std::pair{"desktop", SimulatedPowerModel::Kind::desktop}}) {
         const SimulatedRun run = simulate(kind);
         for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            MainWindowView window;
-            window.setAttribute(Qt::WA_DontShowOnScreen);
-            window.setFerrowPalette(FerrowPalette{scheme});
-            window.setSnapshot(run.snapshot);
-            window.setHistory(run.history);
-            window.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
-            if (width > 0)
-                window.resize(width, window.height());
-            window.show();
-            waitFor(50);
-            for (const MainSection section : kMainSections) {
-                window.pickSection(section);
-                waitFor(420); // the scroll animation
-                const QString path = QStringLiteral("%1/main-%2-%3-%4.png")
-                                         .arg(output, QLatin1String(name), scheme == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light"),
-                                              QString::fromLatin1(sectionTitleKey(section)).section(u'.', 1));
-                if (!render(window, 1.0, path)) {
-                    err << "render_views: cannot write " << path << Qt::endl;
-                    return -1;
-                }
-                ++written;
-            }
+            const int images = renderMainWindow(output, QLatin1String(name), run, scheme, width, err);
+            if (images < 0)
+                return -1;
+            written += images;
         }
     }
     return written;
+}
+
+// A copied machine of this system's kind (a Linux notebook with two packs), where this system can read one.
+int renderCopiedMachine(const QString &output, const QString &name, const QString &root, int width, QTextStream &err)
+{
+    QString error;
+    const std::optional<NativeMachine> machine = openCopiedMachine(root, &error);
+    if (!machine)
+        return 0;
+    SimulatedRun run;
+    for (int reading = 0; reading < 2; ++reading) {
+        run.snapshot = machine->reader->read();
+        run.history.append(run.snapshot);
+    }
+    return renderMainWindow(output, name, run, ColorScheme::light, width, err);
 }
 
 // The tray icon as a panel shows it: each state at the usual panel sizes on a light and a dark panel.
@@ -206,6 +233,10 @@ int main(int argc, char *argv[])
     if (windows < 0)
         return 1;
     written += windows;
+    const int copied = renderCopiedMachine(output, QStringLiteral("two-packs"), fixtures + QStringLiteral("sysfs-thinkpad-two-batteries"), mainWindowWidth, err);
+    if (copied < 0)
+        return 1;
+    written += copied;
     QTextStream(stdout) << "render_views: wrote " << written << " images to " << output << Qt::endl;
     return 0;
 }

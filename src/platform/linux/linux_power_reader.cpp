@@ -1,11 +1,13 @@
 #include "platform/linux/linux_power_reader.h"
 
+#include "model/localized_text.h"
 #include "platform/common/in_memory_key_value_store.h"
 #include "sources/battery_temperature_reader.h"
 #include "sources/reading_rules.h"
 
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 
 #include <chrono>
 #include <cmath>
@@ -152,6 +154,41 @@ std::optional<std::int64_t> summed(const std::vector<BatteryReading> &packs, Mem
     return sum;
 }
 
+std::optional<QString> optionalText(const std::optional<std::string> &value)
+{
+    return value ? std::optional(QString::fromStdString(*value)) : std::nullopt;
+}
+
+// One pack's own figures, as the details window lists them.
+BatteryPack packFigures(const BatteryReading &pack)
+{
+    BatteryPack figures;
+    figures.name = QString::fromStdString(pack.name);
+    figures.model = optionalText(pack.modelName);
+    figures.serial = optionalText(pack.serialNumber);
+    figures.percent = stateOfChargePercent(pack).value_or(0);
+    if (const std::optional<double> powerW = powerMagnitudeW(pack))
+        figures.flowW = intoBatterySign(pack) * *powerW;
+    figures.healthPercent = counterHealthPercent(pack);
+    if (pack.cycleCount && *pack.cycleCount > 0)
+        figures.cycleCount = pack.cycleCount;
+    figures.designCapacityMAH = capacityMAH(pack.fullDesign, pack);
+    figures.fullChargeCapacityMAH = capacityMAH(pack.full, pack);
+    figures.temperatureC = packTemperatureC(pack);
+    figures.voltageV = packVoltageV(pack);
+    return figures;
+}
+
+// "USB-C 20 V · 3.25 A" in the user's language and digits.
+QString contractText(const UsbContract &contract)
+{
+    const QLocale locale;
+    const QString volts = locale.toString(contract.voltageV, 'g', 4);
+    if (!contract.currentA)
+        return localizedFormatText("power.usb_c_voltage", {volts});
+    return localizedFormatText("power.usb_c_contract", {volts, locale.toString(*contract.currentA, 'g', 4)});
+}
+
 // Several packs (an internal and an external one, charged and drained one after the other) as
 // the user thinks of them: one battery whose charge is the packs' energy over their full energy,
 // whose flow is their sum, charging while any pack charges. The pack doing the work lends its
@@ -235,10 +272,9 @@ PowerSnapshot LinuxPowerReader::read()
     PowerSnapshot s;
     s.chipPower = m_chipReader.sample();
 
-    // The SMC's own input and system power where hwmon shows them; else a USB-C source's voltage.
-    std::optional<double> inputVoltageV = sensor("VD0R", kMaximumInputVoltageV);
-    if (!m_hwmon.smcKeys.contains("VD0R") && m_supplies.reportsInputVoltage())
-        inputVoltageV = within(m_supplies.readInputVoltageV(), 0, kMaximumInputVoltageV);
+    // The SMC's own input and system power where hwmon shows them. A USB-C source's voltage and
+    // current are its contract, not a measurement: they describe the adapter.
+    const std::optional<double> inputVoltageV = sensor("VD0R", kMaximumInputVoltageV);
     const std::optional<double> inputCurrentA = sensor("ID0R", kMaximumInputCurrentA);
     s.dcVoltageV = inputVoltageV && *inputVoltageV >= kInputVoltageFloorV ? *inputVoltageV : 0.0;
     s.dcCurrentA = inputCurrentA && *inputCurrentA >= kInputCurrentFloorA ? *inputCurrentA : 0.0;
@@ -251,6 +287,8 @@ PowerSnapshot LinuxPowerReader::read()
     const std::optional<bool> externalOnline = m_supplies.readExternalOnline();
     s.hasBattery = battery.has_value();
     s.isExternalConnected = !battery || externalOnline == true || statusSaysExternalPower(battery->status);
+    if (const std::optional<UsbContract> contract = m_supplies.readUsbContract())
+        s.adapterDescription = contractText(*contract);
     // Without the SMC's figures, nothing comes in while the machine runs on its battery; on
     // external power, what comes in is not measured here.
     const bool smcPower = m_hwmon.smcKeys.contains("PDTR") || m_hwmon.smcKeys.contains("PSTR");
@@ -305,30 +343,35 @@ void LinuxPowerReader::readBattery(PowerSnapshot &s, const BatteryReading &batte
     // Each pack keeps its extremes under its own serial; the reading shows the active pack's.
     const std::optional<QString> serial = battery.serialNumber ? std::optional(QString::fromStdString(*battery.serialNumber)) : std::nullopt;
     for (const BatteryReading &pack : packs) {
-        const std::optional<QString> packSerial = pack.serialNumber ? std::optional(QString::fromStdString(*pack.serialNumber)) : std::nullopt;
-        const bool shown = packSerial == serial;
-        const std::optional<double> temperatureC = shown ? s.batteryTemperatureC : packTemperatureC(pack);
-        const BatteryTemperatureHistory temperatures = m_history.recordTemperature(packSerial, temperatureC);
-        const std::optional<double> voltageV = packVoltageV(pack);
+        BatteryPack figures = packFigures(pack);
+        const bool active = figures.serial == serial;
+        const BatteryTemperatureHistory temperatures = m_history.recordTemperature(figures.serial, figures.temperatureC);
         const std::optional<double> currentA = currentMagnitudeA(pack);
         const BatteryElectricalHistory electrical = m_history.recordElectrical(
-            packSerial, voltageV, currentA ? std::optional(intoBatterySign(pack) * *currentA) : std::nullopt);
-        if (!shown)
-            continue;
-        s.lifetimeMaxTemperatureC = temperatures.maximumC;
-        s.lifetimeMinTemperatureC = temperatures.minimumC;
-        s.lifetimeAverageTemperatureC = temperatures.averageC;
-        s.lifetimeMaxPackVoltageV = electrical.maximumVoltageV;
-        s.lifetimeMinPackVoltageV = electrical.minimumVoltageV;
-        s.lifetimeMaxChargeCurrentA = electrical.maximumChargeCurrentA;
-        s.lifetimeMaxDischargeCurrentA = electrical.maximumDischargeCurrentA;
+            figures.serial, figures.voltageV, currentA ? std::optional(intoBatterySign(pack) * *currentA) : std::nullopt);
+        figures.lifetimeMaxTemperatureC = temperatures.maximumC;
+        figures.lifetimeMinTemperatureC = temperatures.minimumC;
+        figures.lifetimeMaxPackVoltageV = electrical.maximumVoltageV;
+        figures.lifetimeMinPackVoltageV = electrical.minimumVoltageV;
+        figures.lifetimeMaxChargeCurrentA = electrical.maximumChargeCurrentA;
+        figures.lifetimeMaxDischargeCurrentA = electrical.maximumDischargeCurrentA;
+        if (active) {
+            s.lifetimeMaxTemperatureC = temperatures.maximumC;
+            s.lifetimeMinTemperatureC = temperatures.minimumC;
+            s.lifetimeAverageTemperatureC = temperatures.averageC;
+            s.lifetimeMaxPackVoltageV = electrical.maximumVoltageV;
+            s.lifetimeMinPackVoltageV = electrical.minimumVoltageV;
+            s.lifetimeMaxChargeCurrentA = electrical.maximumChargeCurrentA;
+            s.lifetimeMaxDischargeCurrentA = electrical.maximumDischargeCurrentA;
+        }
+        if (packs.size() > 1)
+            s.batteryPacks.push_back(std::move(figures));
     }
 
     // Drivers that do not count cycles say 0.
     if (battery.cycleCount && *battery.cycleCount > 0)
         s.cycleCount = battery.cycleCount;
-    if (battery.modelName)
-        s.deviceName = QString::fromStdString(*battery.modelName);
+    s.deviceName = optionalText(battery.modelName);
     s.batterySerial = serial;
 }
 

@@ -12,6 +12,9 @@ bool isExternalSupplyType(const std::string &type)
     return type == "Mains" || type.rfind("USB", 0) == 0;
 }
 
+// USB Power Delivery ends at 48 V and 5 A; a hundred times that is no contract.
+constexpr std::int64_t kLargestContractMicro = 500'000'000;
+
 } // namespace
 
 PowerSupplies::PowerSupplies(SysfsFiles &files)
@@ -36,9 +39,9 @@ PowerSupplies::PowerSupplies(SysfsFiles &files)
                                    at("power_now"), at("voltage_min_design"), at((std::string(prefix) + "now").c_str()),
                                    at((std::string(prefix) + "full").c_str()), at((std::string(prefix) + "full_design").c_str()),
                                    at("cycle_count"), at("temp"), at("time_to_full_now"), at("model_name"), at("serial_number"),
-                                   folder + "type", !charge});
+                                   folder + "type", !charge, name});
         } else if (isExternalSupplyType(*type)) {
-            m_external.push_back({at("online"), at("voltage_now")});
+            m_external.push_back({at("online"), at("voltage_now"), at("current_max"), at("current_now"), type->starts_with("USB")});
         }
     }
 }
@@ -48,6 +51,7 @@ std::vector<BatteryReading> PowerSupplies::readBatteries()
     std::vector<BatteryReading> readings;
     for (const BatteryFiles &battery : m_batteries) {
         BatteryReading reading;
+        reading.name = battery.name;
         reading.status = text(battery.status);
         // Some drivers have no present file: such a battery is there as long as its folder is.
         if (battery.present.empty() ? !text(battery.type) : integer(battery.present).value_or(0) == 0)
@@ -81,19 +85,29 @@ std::optional<bool> PowerSupplies::readExternalOnline()
     return online;
 }
 
-double PowerSupplies::readInputVoltageV()
+std::optional<UsbContract> PowerSupplies::readUsbContract()
 {
-    std::int64_t highestUV = 0;
+    std::optional<UsbContract> best;
+    double bestW = -1;
     for (const ExternalFiles &supply : m_external) {
-        if (!supply.voltageNow.empty() && integer(supply.online).value_or(0) > 0)
-            highestUV = std::max(highestUV, integer(supply.voltageNow).value_or(0));
+        if (!supply.usb || integer(supply.online).value_or(0) <= 0)
+            continue;
+        const std::int64_t voltageUV = integer(supply.voltageNow).value_or(0);
+        if (voltageUV <= 0 || voltageUV > kLargestContractMicro)
+            continue;
+        std::int64_t currentUA = integer(supply.currentMax).value_or(0);
+        if (currentUA <= 0)
+            currentUA = integer(supply.currentNow).value_or(0);
+        UsbContract contract{static_cast<double>(voltageUV) / 1e6, std::nullopt};
+        if (currentUA > 0 && currentUA <= kLargestContractMicro)
+            contract.currentA = static_cast<double>(currentUA) / 1e6;
+        const double powerW = contract.voltageV * contract.currentA.value_or(0);
+        if (powerW > bestW) {
+            best = contract;
+            bestW = powerW;
+        }
     }
-    return static_cast<double>(highestUV) / 1e6;
-}
-
-bool PowerSupplies::reportsInputVoltage() const
-{
-    return std::any_of(m_external.begin(), m_external.end(), [](const ExternalFiles &supply) { return !supply.voltageNow.empty(); });
+    return best;
 }
 
 } // namespace ferrow

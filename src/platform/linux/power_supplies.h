@@ -11,6 +11,7 @@ namespace ferrow {
 
 // One reading of a battery in the kernel's units: µV, µA, µW, µAh or µWh, tenths of a degree, seconds.
 struct BatteryReading {
+    std::string name; // the supply's folder, "BAT0"
     std::optional<std::string> status; // "Charging", "Discharging", "Full", "Not charging", "Unknown"
     std::optional<std::int64_t> capacityPercent;
     std::optional<std::int64_t> voltageUV;
@@ -28,6 +29,12 @@ struct BatteryReading {
     std::optional<std::string> serialNumber;
 };
 
+// What a USB-C power source agreed to deliver: its voltage, and the current it allows when it says.
+struct UsbContract {
+    double voltageV = 0;
+    std::optional<double> currentA;
+};
+
 // The machine's power supplies under sys/class/power_supply: its own batteries (not a mouse's or a
 // phone's) and its mains and USB supplies. Which supplies exist and which attributes each has are
 // found once; values are read afresh every time.
@@ -43,10 +50,9 @@ public:
     std::vector<BatteryReading> readBatteries();
     // Whether any external supply is online; absent when none can say.
     std::optional<bool> readExternalOnline();
-    // The highest input voltage an online supply reports (a USB-C source's negotiated voltage);
-    // 0 when none does.
-    double readInputVoltageV();
-    bool reportsInputVoltage() const;
+    // The contract an online USB source negotiated: what it offers, not what flows. The one with
+    // the most power when several are online.
+    std::optional<UsbContract> readUsbContract();
 
 private:
     // Full paths of the attributes a supply has; empty where it has none.
@@ -54,9 +60,11 @@ private:
         std::string present, status, capacity, voltageNow, currentNow, powerNow, voltageMinDesign;
         std::string now, full, fullDesign, cycleCount, temp, timeToFullNow, modelName, serialNumber, type;
         bool energyUnits = false;
+        std::string name;
     };
     struct ExternalFiles {
-        std::string online, voltageNow;
+        std::string online, voltageNow, currentMax, currentNow;
+        bool usb = false;
     };
 
     std::optional<std::int64_t> integer(const std::string &path) { return path.empty() ? std::nullopt : m_files.readInteger(path); }

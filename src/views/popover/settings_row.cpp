@@ -53,7 +53,7 @@ void SettingsRow::setFerrowPalette(const FerrowPalette &palette)
 void SettingsRow::setVersion(const QString &version)
 {
     m_version->setText(u'v' + version);
-    m_version->setAccessibleName(localizedFormatText("app.version", version));
+    m_version->setAccessibleName(localizedFormatText("app.version", {version}));
 }
 
 void SettingsRow::setLaunchAtLogin(bool enabled)

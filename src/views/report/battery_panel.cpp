@@ -2,6 +2,7 @@
 
 #include "model/localized_text.h"
 #include "views/main_window_model.h"
+#include "views/report/battery_packs_view.h"
 #include "views/report/unavailable_note.h"
 #include "views/snapshot_view.h"
 #include "views/value_rows_view.h"
@@ -37,11 +38,16 @@ BatteryPanel::BatteryPanel(QWidget *parent)
     : ReportPanel("battery.title", Glyph::battery, kChargeGreen, parent)
     , m_charge(new Charge)
     , m_rows(new ValueRowsView(ValueRowsView::Size::regular))
+    , m_packsHeading(new PanelText(uiFont(13, QFont::DemiBold), ColorRole::secondaryText, 8, 20, 32))
+    , m_packs(new BatteryPacksView)
     , m_absent(new UnavailableNote(132))
 {
     m_absent->setText(localizedText("battery.not_detected"), localizedText("battery.not_detected_description"));
+    m_packsHeading->setText(localizedText("battery.packs"));
     addContent(m_charge);
     addContent(m_rows);
+    addContent(m_packsHeading);
+    addContent(m_packs);
     addContent(m_absent);
 }
 
@@ -52,6 +58,10 @@ void BatteryPanel::setSnapshot(const PowerSnapshot &snapshot)
     m_absent->setVisible(!snapshot.hasBattery);
     m_charge->setSnapshot(snapshot);
     m_rows->setRows(snapshot.hasBattery ? batteryRows(snapshot) : std::vector<ValueRow>{});
+    const bool severalPacks = snapshot.hasBattery && !snapshot.batteryPacks.empty();
+    m_packsHeading->setVisible(severalPacks);
+    m_packs->setVisible(severalPacks);
+    m_packs->setPacks(severalPacks ? snapshot.batteryPacks : std::vector<BatteryPack>{});
 }
 
 void BatteryPanel::setFerrowPalette(const FerrowPalette &palette)
@@ -59,6 +69,8 @@ void BatteryPanel::setFerrowPalette(const FerrowPalette &palette)
     ReportPanel::setFerrowPalette(palette);
     m_charge->setFerrowPalette(palette);
     m_rows->setFerrowPalette(palette);
+    m_packsHeading->setFerrowPalette(palette);
+    m_packs->setFerrowPalette(palette);
     m_absent->setFerrowPalette(palette);
 }
 

@@ -5,6 +5,8 @@
 
 namespace ferrow {
 
+class BatteryPacksView;
+class PanelText;
 class UnavailableNote;
 class ValueRowsView;
 
@@ -21,6 +23,8 @@ private:
 
     Charge *m_charge;
     ValueRowsView *m_rows;
+    PanelText *m_packsHeading;
+    BatteryPacksView *m_packs;
     UnavailableNote *m_absent;
 };
 

@@ -77,7 +77,7 @@ void ReportSidebar::setSnapshot(const PowerSnapshot &s)
     m_status->setText(s.statusText());
     const QTime time = QDateTime::fromMSecsSinceEpoch(std::chrono::duration_cast<std::chrono::milliseconds>(s.updatedAt.time_since_epoch()).count())
                            .time();
-    m_updatedAt->setText(localizedFormatText("sidebar.updated_at", timeOfDayText(time, QLocale())));
+    m_updatedAt->setText(localizedFormatText("sidebar.updated_at", {timeOfDayText(time, QLocale())}));
 }
 
 void ReportSidebar::setFerrowPalette(const FerrowPalette &p)

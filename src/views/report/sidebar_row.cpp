@@ -16,7 +16,7 @@ SidebarRow::SidebarRow(MainSection section, QWidget *parent)
     setCheckable(true);
     setFixedHeight(30);
     setCursor(Qt::PointingHandCursor);
-    setAccessibleName(localizedFormatText("accessibility.scroll_to", localizedText(sectionTitleKey(section))));
+    setAccessibleName(localizedFormatText("accessibility.scroll_to", {localizedText(sectionTitleKey(section))}));
     m_fade.setDuration(160);
     m_fade.setEasingCurve(QEasingCurve::OutQuad);
     connect(&m_fade, &QVariantAnimation::valueChanged, this, [this](const QVariant &value) {
