@@ -88,7 +88,7 @@ graphics and memory power, and the battery's charge, health and temperature.
 ferrow-cli prints the same readings in a terminal.")
     # The libraries come from dpkg-shlibdeps; the platform plugins Qt loads at run time do not.
     set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-    set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
+    set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, libqt6sql6-sqlite")
     set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
     set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 endif()

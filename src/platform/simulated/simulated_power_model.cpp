@@ -88,6 +88,8 @@ void SimulatedPowerModel::step(double dtS)
         m_state.adapterPowerW = m_state.systemPowerW;
     for (int domain = 0; domain < domainCount; ++domain)
         m_state.domainEnergyJ[domain] += m_state.domainPowerW[domain] * dtS;
+    m_state.adapterEnergyJ += m_state.adapterPowerW * dtS;
+    m_state.systemEnergyJ += m_state.systemPowerW * dtS;
 
     m_state.adapterVoltageV = m_state.adapterConnected ? kAdapterVoltageV - 0.02 * m_state.adapterPowerW / kAdapterVoltageV : 0.0;
     m_state.adapterCurrentA = m_state.adapterConnected ? m_state.adapterPowerW / m_state.adapterVoltageV : 0.0;

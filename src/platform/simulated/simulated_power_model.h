@@ -32,6 +32,8 @@ public:
         double systemPowerW = 0;
         std::array<double, domainCount> domainPowerW{};
         std::array<double, domainCount> domainEnergyJ{}; // cumulative since boot
+        double adapterEnergyJ = 0; // cumulative since the model started, for checking what others integrate
+        double systemEnergyJ = 0;
         // Battery (notebook only).
         double stateOfCharge = 0;
         double packVoltageV = 0;

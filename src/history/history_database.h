@@ -1,0 +1,67 @@
+#pragma once
+
+#include "history/history_records.h"
+
+#include <QSqlDatabase>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace ferrow {
+
+// How finely stored energy is listed: by the minute, the hour, the local day or the local month.
+enum class HistoryPeriod { minute, hour, day, month };
+
+// Energy of one period; start is the period's first second (local midnight for a day) in UTC.
+struct PeriodEnergy {
+    UnixSeconds start = 0;
+    EnergyTotals energy;
+    std::optional<double> minPowerW;
+    std::optional<double> meanPowerW;
+    std::optional<double> maxPowerW;
+    std::optional<std::int64_t> batteryPercent; // at the period's end
+};
+
+// The history in one SQLite file: minutes for 30 days, hours after that, the sessions and each
+// battery's daily condition. One object per thread; it never deletes or rewrites a file it cannot
+// read, and after any failure it says why in error() and takes no more writes.
+class HistoryDatabase {
+public:
+    static constexpr int kSchemaVersion = 1;
+    static constexpr UnixSeconds kMinuteRetentionS = 30 * 86'400;
+
+    enum class Mode { readWrite, readOnly };
+
+    HistoryDatabase(const QString &path, Mode mode);
+    ~HistoryDatabase();
+    HistoryDatabase(const HistoryDatabase &) = delete;
+    HistoryDatabase &operator=(const HistoryDatabase &) = delete;
+
+    bool isOpen() const { return m_error.isEmpty(); }
+    const QString &error() const { return m_error; }
+
+    // One minute, the session it belongs to and the batteries' days, in one transaction. Minutes
+    // older than the retention become hours in the same transaction, once an hour.
+    bool write(const std::vector<MinuteRecord> &minutes, const std::vector<SessionRecord> &sessions,
+               const std::vector<BatteryDayRecord> &batteryDays, UnixSeconds now);
+
+    std::vector<PeriodEnergy> energy(UnixSeconds from, UnixSeconds to, HistoryPeriod per) const;
+    // Sessions that ended at or after from and started before to, newest first.
+    std::vector<SessionRecord> sessions(UnixSeconds from, UnixSeconds to, int limit = -1) const;
+    std::vector<BatteryDayRecord> batteryDays() const;
+    // The first stored second, absent while nothing is stored.
+    std::optional<UnixSeconds> firstRecord() const;
+
+private:
+    bool fail(const QString &what, const QString &why);
+    bool prepareSchema();
+    bool rollUp(UnixSeconds now);
+
+    QString m_path;
+    QString m_connection;
+    QString m_error;
+    UnixSeconds m_lastRollUpHour = 0;
+};
+
+} // namespace ferrow

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "history/history_database.h"
+#include "history/minute_folder.h"
+#include "history/session_tracker.h"
+
+#include <QObject>
+#include <QSet>
+#include <QThread>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace ferrow {
+
+// What the details window's History section shows, read on the worker in one go.
+struct HistoryOverview {
+    QString error;                     // why there is no history, or empty
+    std::optional<UnixSeconds> since;  // the first stored second
+    std::vector<PeriodEnergy> last30Days;
+    std::vector<PeriodEnergy> last12Months;
+    std::vector<SessionRecord> recentSessions;
+    std::vector<BatteryDayRecord> batteryDays;
+};
+
+class HistoryWorker;
+
+// Keeps the energy memory: folds each published reading into minutes and the current session on
+// the main thread (in memory, no disk), and hands each finished minute to a worker thread that
+// owns the database and commits it. Without a database path it still follows the current session.
+class HistoryRecorder : public QObject {
+    Q_OBJECT
+public:
+    using MonotonicClock = std::function<double()>;
+
+    explicit HistoryRecorder(const QString &databasePath, MonotonicClock monotonicS = {}, QObject *parent = nullptr);
+    ~HistoryRecorder() override;
+
+    // The reading the monitor just published.
+    void record(const PowerSnapshot &reading);
+    // Commits the minute so far (before sleep and quit).
+    void flush();
+    // Waits until every write handed to the worker is committed.
+    void waitForWrites();
+
+    const std::optional<SessionRecord> &currentSession() const { return m_sessions.current(); }
+    bool keepsHistory() const { return !m_path.isEmpty(); }
+    // Why the history cannot be kept, empty while it can (as last reported by the worker).
+    const QString &error() const { return m_error; }
+
+    // Stops keeping history and removes the database and its journal files.
+    void deleteHistory();
+    // Asks the worker for the overview; overviewReady answers on the main thread.
+    void requestOverview(UnixSeconds now);
+
+    static QString defaultDatabasePath();
+
+signals:
+    void overviewReady(const ferrow::HistoryOverview &overview);
+    void errorChanged();
+
+private:
+    void write(std::vector<MinuteRecord> minutes, std::optional<SessionRecord> endedSession);
+
+    QString m_path;
+    MonotonicClock m_monotonicS;
+    MinuteFolder m_minutes;
+    SessionTracker m_sessions;
+    QSet<QString> m_batteryDaysWritten;
+    std::optional<BatteryDayRecord> m_latestBatteryDay;
+    QString m_error;
+    QThread m_thread;
+    HistoryWorker *m_worker = nullptr; // lives on m_thread
+};
+
+} // namespace ferrow
