@@ -334,28 +334,32 @@ std::vector<PeriodEnergy> HistoryDatabase::energy(UnixSeconds from, UnixSeconds 
         sums += QStringLiteral(", sum(%1)").arg(QLatin1String(column));
     // Hours only hold what the minutes no longer do, so the two never count a second twice.
     const QString sql = QStringLiteral(
-        "WITH rows AS (SELECT * FROM minutes WHERE start >= :from AND start < :to "
-        "UNION ALL SELECT * FROM hours WHERE start >= :from AND start < :to) "
-        "SELECT %1 AS period, sum(covered_s)%2, min(min_power_w), "
-        "sum(mean_power_w * covered_s) / sum(CASE WHEN mean_power_w IS NULL THEN NULL ELSE covered_s END), max(max_power_w), "
-        "(SELECT battery_percent FROM rows r WHERE r.start = max(rows.start)) "
-        "FROM rows GROUP BY period ORDER BY period")
+        "WITH stored AS (SELECT * FROM minutes WHERE start >= ? AND start < ? "
+        "UNION ALL SELECT * FROM hours WHERE start >= ? AND start < ?), "
+        "periods AS (SELECT %1 AS period, max(start) AS last, sum(covered_s)%2, min(min_power_w), "
+        "sum(mean_power_w * covered_s) / sum(CASE WHEN mean_power_w IS NULL THEN NULL ELSE covered_s END), max(max_power_w) "
+        "FROM stored GROUP BY period) "
+        "SELECT periods.*, (SELECT battery_percent FROM stored WHERE stored.start = periods.last LIMIT 1) FROM periods ORDER BY period")
                             .arg(periodStart(per), sums);
     QSqlQuery query(QSqlDatabase::database(m_connection, false));
     query.setForwardOnly(true);
     query.prepare(sql);
-    query.bindValue(QStringLiteral(":from"), static_cast<qlonglong>(from));
-    query.bindValue(QStringLiteral(":to"), static_cast<qlonglong>(to));
-    if (!query.exec())
+    for (int table = 0; table < 2; ++table) {
+        query.addBindValue(static_cast<qlonglong>(from));
+        query.addBindValue(static_cast<qlonglong>(to));
+    }
+    if (!query.exec()) {
+        qWarning("history: %s", qPrintable(query.lastError().text()));
         return periods;
+    }
     while (query.next()) {
         PeriodEnergy period;
         period.start = query.value(0).toLongLong();
-        period.energy = readEnergy(query, 1);
-        period.minPowerW = optionalValue<double>(query.value(10));
-        period.meanPowerW = optionalValue<double>(query.value(11));
-        period.maxPowerW = optionalValue<double>(query.value(12));
-        period.batteryPercent = optionalInteger(query.value(13));
+        period.energy = readEnergy(query, 2);
+        period.minPowerW = optionalValue<double>(query.value(11));
+        period.meanPowerW = optionalValue<double>(query.value(12));
+        period.maxPowerW = optionalValue<double>(query.value(13));
+        period.batteryPercent = optionalInteger(query.value(14));
         periods.push_back(period);
     }
     return periods;

@@ -40,6 +40,13 @@ public:
 
     void close() { m_database.reset(); }
 
+    // Opens the file at once, so that a reason not to keep history is known before the first minute.
+    QString open()
+    {
+        database();
+        return m_database->error();
+    }
+
 private:
     HistoryDatabase *database()
     {
@@ -78,6 +85,17 @@ HistoryRecorder::HistoryRecorder(const QString &databasePath, MonotonicClock mon
     m_worker->moveToThread(&m_thread);
     connect(&m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
     m_thread.start(QThread::LowPriority);
+    QMetaObject::invokeMethod(m_worker, [this, worker = m_worker] { reportError(worker->open()); });
+}
+
+void HistoryRecorder::reportError(const QString &error)
+{
+    QMetaObject::invokeMethod(this, [this, error] {
+        if (error == m_error)
+            return;
+        m_error = error;
+        emit errorChanged();
+    });
 }
 
 HistoryRecorder::~HistoryRecorder()
@@ -134,13 +152,7 @@ void HistoryRecorder::write(std::vector<MinuteRecord> minutes, std::optional<Ses
     const UnixSeconds now = m_minutes.lastTime() > 0 ? m_minutes.lastTime() : unixNow();
     QMetaObject::invokeMethod(m_worker, [this, worker = m_worker, minutes = std::move(minutes), sessions = std::move(sessions),
                                          days = std::move(days), now] {
-        const QString error = worker->write(minutes, sessions, days, now);
-        QMetaObject::invokeMethod(this, [this, error] {
-            if (error == m_error)
-                return;
-            m_error = error;
-            emit errorChanged();
-        });
+        reportError(worker->write(minutes, sessions, days, now));
     });
 }
 

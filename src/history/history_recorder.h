@@ -63,6 +63,8 @@ signals:
 
 private:
     void write(std::vector<MinuteRecord> minutes, std::optional<SessionRecord> endedSession);
+    // From the worker: takes the error to the main thread.
+    void reportError(const QString &error);
 
     QString m_path;
     MonotonicClock m_monotonicS;
