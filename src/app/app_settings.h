@@ -12,6 +12,7 @@ struct Preferences {
     bool showPowerInMenuBar = true;
     bool reduceMotion = false; // where the system has no setting of its own
     Appearance appearance = Appearance::system;
+    bool keepHistory = true; // the energy history database
 
     bool operator==(const Preferences &) const = default;
 };
@@ -21,6 +22,7 @@ namespace PreferenceKey {
 inline const QString showPowerInMenuBar = QStringLiteral("showPowerInMenuBar");
 inline const QString reduceMotion = QStringLiteral("reduceMotion");
 inline const QString appearance = QStringLiteral("appearance"); // "system", "light" or "dark"
+inline const QString keepHistory = QStringLiteral("keepHistory");
 } // namespace PreferenceKey
 
 // Values someone else wrote into the file are read defensively: anything that is not clearly of

@@ -3,6 +3,7 @@
 #include "app/app_settings.h"
 #include "app/menu_bar_label.h"
 #include "app/popover_placement.h"
+#include "history/history_recorder.h"
 #include "model/localized_text.h"
 #include "monitor/power_monitor.h"
 #include "monitor/sleep_wake_notifier.h"
@@ -92,7 +93,15 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
         showLoginItemState(); // refused, or waiting for the user: the system's state, not the click
     });
     connect(m_dashboard, &DashboardView::launchAtLoginNoteClicked, this, [this] { m_loginItem->openSettingsForState(); });
+    m_history = std::make_unique<HistoryRecorder>(preferences.keepHistory ? HistoryRecorder::defaultDatabasePath() : QString());
+    connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, [this] { m_history->record(m_monitor->snapshot()); });
     connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, &ApplicationShell::showSnapshot);
+    if (m_sleepWake)
+        connect(m_sleepWake.get(), &SleepWakeNotifier::willSleep, this, &ApplicationShell::persist);
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
+        persist();
+        m_history->waitForWrites();
+    });
     connect(m_monitor.get(), &PowerMonitor::powerHistoryChanged, this, [this] {
         if (m_mainWindow)
             m_mainWindow->setHistory(m_monitor->powerHistory());
@@ -108,6 +117,12 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
 }
 
 ApplicationShell::~ApplicationShell() = default;
+
+void ApplicationShell::persist()
+{
+    m_history->flush();
+    m_monitor->persist();
+}
 
 void ApplicationShell::start()
 {

@@ -17,6 +17,7 @@ class QWidget;
 namespace ferrow {
 
 class DashboardView;
+class HistoryRecorder;
 class MainWindowView;
 class PowerMonitor;
 class SleepWakeNotifier;
@@ -43,6 +44,8 @@ protected:
 
 private:
     void showSnapshot();
+    // Commits the history's minute and the lifetime extremes: before sleep and quit.
+    void persist();
     void updateTrayItem();
     void togglePopover();
     void showLoginItemState();
@@ -56,6 +59,7 @@ private:
     std::unique_ptr<SleepWakeNotifier> m_sleepWake;
     std::unique_ptr<LoginItem> m_loginItem;
     std::unique_ptr<PowerMonitor> m_monitor;
+    std::unique_ptr<HistoryRecorder> m_history;
     std::unique_ptr<QWidget> m_window;
     DashboardView *m_dashboard = nullptr;
     std::unique_ptr<MainWindowView> m_mainWindow;

@@ -59,6 +59,11 @@ void PowerMonitor::refresh()
     });
 }
 
+void PowerMonitor::persist()
+{
+    m_worker.start([this] { m_reader->persist(); });
+}
+
 void PowerMonitor::stopTimer()
 {
     m_timer.reset();

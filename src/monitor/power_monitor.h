@@ -42,6 +42,8 @@ public slots:
     void refresh();
     void stopTimer();
     void restart();
+    // Has the reader write what it keeps, on the reading worker after any reading in flight.
+    void persist();
 
 signals:
     // Emitted before every store, equal values included, like any observable property.

@@ -11,6 +11,9 @@ class SnapshotReader {
 public:
     virtual ~SnapshotReader() = default;
     virtual PowerSnapshot read() = 0;
+    // Writes what the reader keeps (the batteries' lifetime extremes) to disk. Called like read(),
+    // before the machine sleeps and before the program quits.
+    virtual void persist() {}
 };
 
 } // namespace ferrow

@@ -135,6 +135,11 @@ struct PowerSensorReader::Reading {
     std::optional<double> signedCurrentA;
 };
 
+void PowerSensorReader::persist()
+{
+    m_platform->preferences().flush();
+}
+
 PowerSnapshot PowerSensorReader::read()
 {
     PowerSnapshot s;

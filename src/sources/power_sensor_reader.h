@@ -25,6 +25,7 @@ public:
     explicit PowerSensorReader(std::unique_ptr<MachinePlatform> platform);
 
     PowerSnapshot read() override;
+    void persist() override;
 
     // Every SMC key a reading may ask for, power, cell and temperature keys alike.
     static std::vector<std::string> smcKeysRead();

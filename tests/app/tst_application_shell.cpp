@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -73,6 +74,7 @@ private slots:
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_config.path());
         QCoreApplication::setOrganizationName(QStringLiteral("FerrowTest"));
         QCoreApplication::setApplicationName(QStringLiteral("FerrowTest"));
+        QStandardPaths::setTestModeEnabled(true); // the history database too stays out of the user's data
     }
 
     void withoutATrayTheDashboardIsAWindowThatSaysWhy()

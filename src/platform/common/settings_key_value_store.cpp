@@ -7,6 +7,11 @@ SettingsKeyValueStore::SettingsKeyValueStore(const QString &fileName, QSettings:
 {
 }
 
+SettingsKeyValueStore::~SettingsKeyValueStore()
+{
+    flush();
+}
+
 template <typename Use>
 auto SettingsKeyValueStore::withSettings(Use use) const
 {
@@ -20,6 +25,8 @@ auto SettingsKeyValueStore::withSettings(Use use) const
 
 std::optional<QByteArray> SettingsKeyValueStore::data(const QString &key) const
 {
+    if (const auto unwritten = m_unwritten.find(key); unwritten != m_unwritten.end())
+        return unwritten->second;
     return withSettings([&key](QSettings &settings) -> std::optional<QByteArray> {
         const QVariant value = settings.value(key);
         // Only binary data counts; a string or number someone else put there is not a record.
@@ -31,10 +38,19 @@ std::optional<QByteArray> SettingsKeyValueStore::data(const QString &key) const
 
 void SettingsKeyValueStore::setData(const QString &key, const QByteArray &data)
 {
+    m_unwritten[key] = data;
+}
+
+void SettingsKeyValueStore::flush()
+{
+    if (m_unwritten.empty())
+        return;
     withSettings([&](QSettings &settings) {
-        settings.setValue(key, data);
+        for (const auto &[key, data] : m_unwritten)
+            settings.setValue(key, data);
         settings.sync();
     });
+    m_unwritten.clear();
 }
 
 } // namespace ferrow

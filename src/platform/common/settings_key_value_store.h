@@ -5,6 +5,7 @@
 #include <QSettings>
 #include <QString>
 
+#include <map>
 #include <optional>
 #include <utility>
 
@@ -13,23 +14,29 @@ namespace ferrow {
 // Preferences in QSettings' native format: the user-defaults store on macOS, the desktop's usual
 // configuration file on Linux. This store is made on the main thread and used on the reading
 // worker, and a QSettings object belongs to the thread that uses it, so each call makes its own
-// (QSettings is reentrant; objects on several threads may share one file). Values are written
-// through at once, since the worker has no event loop to sync them later.
+// (QSettings is reentrant; objects on several threads may share one file). A record that changes
+// every second must not rewrite the file every second: values wait in memory until flush() (before
+// sleep and quit) or until the store goes away.
 class SettingsKeyValueStore final : public KeyValueStore {
 public:
     // The application's own preferences (organisation and application names must be set).
     SettingsKeyValueStore() = default;
     // A preferences file of its own, for tools and tests.
     SettingsKeyValueStore(const QString &fileName, QSettings::Format format);
+    ~SettingsKeyValueStore() override;
+    SettingsKeyValueStore(const SettingsKeyValueStore &) = delete;
+    SettingsKeyValueStore &operator=(const SettingsKeyValueStore &) = delete;
 
     std::optional<QByteArray> data(const QString &key) const override;
     void setData(const QString &key, const QByteArray &data) override;
+    void flush() override;
 
 private:
     template <typename Use>
     auto withSettings(Use use) const;
 
     std::optional<std::pair<QString, QSettings::Format>> m_file;
+    std::map<QString, QByteArray> m_unwritten;
 };
 
 } // namespace ferrow

@@ -32,6 +32,7 @@ public:
     bool chipPowerNeedsPermission() const { return m_chip.needsPermission(); }
 
     PowerSnapshot read() override;
+    void persist() override { m_preferences->flush(); }
 
 private:
     std::optional<double> sensor(const char *smcKey, double highest);
