@@ -253,6 +253,11 @@ private slots:
             BatteryHistoryStore store(defaults);
             QCOMPARE(store.recordTemperature(kSerial, 33.0).sampleCount, 1u);
             QCOMPARE(fieldsOf(store.recordElectrical(kSerial, 12.3, -4.0)), (Optionals{12.3, 12.3, QVariant(), 4.0}));
+            // A record that changes every second waits in memory for the flush before sleep or quit.
+            QVERIFY(QSettings(file, QSettings::IniFormat).value(kTemperatureKey).typeId() != QMetaType::QByteArray
+                    || !QSettings(file, QSettings::IniFormat).value(kTemperatureKey).toByteArray().contains("sampleCount"));
+            defaults.flush();
+            QVERIFY(QSettings(file, QSettings::IniFormat).value(kTemperatureKey).toByteArray().contains("\"sampleCount\":1"));
         }
         {
             SettingsKeyValueStore defaults(file, QSettings::IniFormat);
