@@ -1,5 +1,6 @@
 #include "history/history_database.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -7,6 +8,10 @@
 #include <QSqlQuery>
 #include <QUuid>
 #include <QVariant>
+
+#include <limits>
+#include <map>
+#include <tuple>
 
 namespace ferrow {
 namespace {
@@ -101,21 +106,39 @@ EnergyTotals readEnergy(const QSqlQuery &query, int first)
     return energy;
 }
 
-// The expression that gives a row's period start in UTC seconds.
-QString periodStart(HistoryPeriod per)
-{
-    switch (per) {
-    case HistoryPeriod::minute:
-        return QStringLiteral("start");
-    case HistoryPeriod::hour:
-        return QStringLiteral("(start / 3600) * 3600");
-    case HistoryPeriod::day:
-        return QStringLiteral("CAST(strftime('%s', date(start, 'unixepoch', 'localtime'), 'utc') AS INTEGER)");
-    case HistoryPeriod::month:
-        return QStringLiteral("CAST(strftime('%s', date(start, 'unixepoch', 'localtime', 'start of month'), 'utc') AS INTEGER)");
+// The start of the period a second falls in: minutes and hours by arithmetic, days and months by
+// the local calendar (each local day's midnight found once and remembered).
+class LocalCalendar {
+public:
+    explicit LocalCalendar(HistoryPeriod per) : m_per(per) {}
+
+    UnixSeconds periodStart(UnixSeconds t)
+    {
+        if (m_per == HistoryPeriod::minute)
+            return floorTo(t, 60);
+        if (m_per == HistoryPeriod::hour)
+            return floorTo(t, 3600);
+        if (t < m_first || t >= m_next)
+            std::tie(m_first, m_next) = localPeriodAround(t);
+        return m_first;
     }
-    return QStringLiteral("start");
-}
+
+private:
+    static UnixSeconds floorTo(UnixSeconds t, UnixSeconds step) { return t >= 0 ? t / step * step : (t - step + 1) / step * step; }
+
+    std::pair<UnixSeconds, UnixSeconds> localPeriodAround(UnixSeconds t) const
+    {
+        QDate first = QDateTime::fromSecsSinceEpoch(t).date();
+        if (m_per == HistoryPeriod::month)
+            first = QDate(first.year(), first.month(), 1);
+        const QDate next = m_per == HistoryPeriod::month ? first.addMonths(1) : first.addDays(1);
+        return {first.startOfDay().toSecsSinceEpoch(), next.startOfDay().toSecsSinceEpoch()};
+    }
+
+    HistoryPeriod m_per;
+    UnixSeconds m_first = std::numeric_limits<UnixSeconds>::max(); // an empty period until the first lookup
+    UnixSeconds m_next = std::numeric_limits<UnixSeconds>::min();
+};
 
 } // namespace
 
@@ -329,38 +352,54 @@ std::vector<PeriodEnergy> HistoryDatabase::energy(UnixSeconds from, UnixSeconds 
     std::vector<PeriodEnergy> periods;
     if (!isOpen())
         return periods;
-    QString sums;
-    for (const char *column : kEnergyColumns)
-        sums += QStringLiteral(", sum(%1)").arg(QLatin1String(column));
-    // Hours only hold what the minutes no longer do, so the two never count a second twice.
-    const QString sql = QStringLiteral(
-        "WITH stored AS (SELECT * FROM minutes WHERE start >= ? AND start < ? "
-        "UNION ALL SELECT * FROM hours WHERE start >= ? AND start < ?), "
-        "periods AS (SELECT %1 AS period, max(start) AS last, sum(covered_s)%2, min(min_power_w), "
-        "sum(mean_power_w * covered_s) / sum(CASE WHEN mean_power_w IS NULL THEN NULL ELSE covered_s END), max(max_power_w) "
-        "FROM stored GROUP BY period) "
-        "SELECT periods.*, (SELECT battery_percent FROM stored WHERE stored.start = periods.last LIMIT 1) FROM periods ORDER BY period")
-                            .arg(periodStart(per), sums);
-    QSqlQuery query(QSqlDatabase::database(m_connection, false));
+    QSqlDatabase db = QSqlDatabase::database(m_connection, false);
+    QSqlQuery query(db);
     query.setForwardOnly(true);
-    query.prepare(sql);
+    // Hours only hold what the minutes no longer do, so the two never count a second twice.
+    const QString columns = QStringLiteral("start, covered_s, adapter_wh, system_wh, battery_in_wh, battery_out_wh, cpu_wh, gpu_wh, ane_wh, "
+                                           "ram_wh, min_power_w, mean_power_w, max_power_w, battery_percent");
+    query.prepare(QStringLiteral("SELECT %1 FROM minutes WHERE start >= ? AND start < ? UNION ALL SELECT %1 FROM hours WHERE start >= ? AND start < ?")
+                      .arg(columns));
     for (int table = 0; table < 2; ++table) {
         query.addBindValue(static_cast<qlonglong>(from));
         query.addBindValue(static_cast<qlonglong>(to));
     }
-    if (!query.exec()) {
-        qWarning("history: %s", qPrintable(query.lastError().text()));
+    if (!query.exec())
         return periods;
-    }
-    while (query.next()) {
+
+    // Summed here rather than in SQL: the local calendar is worked out once per day, not per row.
+    struct Sum {
         PeriodEnergy period;
-        period.start = query.value(0).toLongLong();
-        period.energy = readEnergy(query, 2);
-        period.minPowerW = optionalValue<double>(query.value(11));
-        period.meanPowerW = optionalValue<double>(query.value(12));
-        period.maxPowerW = optionalValue<double>(query.value(13));
-        period.batteryPercent = optionalInteger(query.value(14));
-        periods.push_back(period);
+        double powerWs = 0;
+        double powerS = 0;
+        UnixSeconds last = std::numeric_limits<UnixSeconds>::min();
+    };
+    std::map<UnixSeconds, Sum> sums;
+    LocalCalendar calendar(per);
+    while (query.next()) {
+        const UnixSeconds start = query.value(0).toLongLong();
+        Sum &sum = sums[calendar.periodStart(start)];
+        const EnergyTotals energy = readEnergy(query, 1);
+        sum.period.energy.add(energy);
+        if (const std::optional<double> low = optionalValue<double>(query.value(10)))
+            sum.period.minPowerW = std::min(sum.period.minPowerW.value_or(*low), *low);
+        if (const std::optional<double> mean = optionalValue<double>(query.value(11))) {
+            sum.powerWs += *mean * energy.coveredS;
+            sum.powerS += energy.coveredS;
+        }
+        if (const std::optional<double> high = optionalValue<double>(query.value(12)))
+            sum.period.maxPowerW = std::max(sum.period.maxPowerW.value_or(*high), *high);
+        if (start > sum.last) {
+            sum.last = start;
+            sum.period.batteryPercent = optionalInteger(query.value(13));
+        }
+    }
+    periods.reserve(sums.size());
+    for (auto &[periodStart, sum] : sums) {
+        sum.period.start = periodStart;
+        if (sum.powerS > 0)
+            sum.period.meanPowerW = sum.powerWs / sum.powerS;
+        periods.push_back(std::move(sum.period));
     }
     return periods;
 }
