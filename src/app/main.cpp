@@ -65,5 +65,8 @@ int main(int argc, char *argv[])
     const std::shared_ptr<const void> onPace = keepTimersOnPace(); // for the life of the process
     ApplicationShell shell(std::move(*machine), createSleepWakeNotifier(), createLoginItem(), createMenuBarItem());
     shell.start();
+    // A logout or `kill` ends the program through its quit path, which commits the history's
+    // minute and the batteries' extremes.
+    quitOnInterruptSignal();
     return QApplication::exec();
 }
