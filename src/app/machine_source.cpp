@@ -1,11 +1,16 @@
 #include "app/machine_source.h"
 
+#include "app/app_settings.h"
+#include "history/history_database.h"
+#include "history/history_recorder.h"
 #include "platform/native_machine.h"
 #include "platform/recorded/recorded_machine.h"
 #include "platform/simulated/simulated_machine.h"
 #include "sources/mac_source_diagnosis.h"
 #include "sources/power_sensor_reader.h"
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <QSettings>
 
 namespace ferrow {
@@ -72,14 +77,33 @@ OpenedMachine openedFrom(NativeMachine native)
     return opened;
 }
 
+// Whether the energy history is kept, where, and since when; or why not. Read-only, so it is safe
+// while the application writes.
+QString historyState()
+{
+    if (!readPreferences(QSettings()).keepHistory)
+        return QStringLiteral("off (the setting in the details window)");
+    const QString path = HistoryRecorder::defaultDatabasePath();
+    if (!QFileInfo::exists(path))
+        return QStringLiteral("none yet; it will be kept in %1").arg(path);
+    const HistoryDatabase database(path, HistoryDatabase::Mode::readOnly);
+    if (!database.isOpen())
+        return QStringLiteral("not kept: %1").arg(database.error());
+    const std::optional<UnixSeconds> since = database.firstRecord();
+    return since ? QStringLiteral("kept in %1 since %2").arg(path, QDateTime::fromSecsSinceEpoch(*since).toString(Qt::ISODate))
+                 : QStringLiteral("kept in %1, empty so far").arg(path);
+}
+
 // What is read, and for this machine where its preferences (and so its battery's lifetime
 // extremes) are kept; a copy, a recording or a simulation keeps them in memory only.
 DiagnosisSection programSection(const QString &reads, bool thisMachine)
 {
     DiagnosisSection section{QStringLiteral("Ferrow"), {}};
     section.add(QStringLiteral("reads"), reads);
-    if (thisMachine)
+    if (thisMachine) {
         section.add(QStringLiteral("preferences"), QSettings().fileName());
+        section.add(QStringLiteral("history"), historyState());
+    }
     return section;
 }
 
