@@ -182,6 +182,19 @@ bool HistoryDatabase::fail(const QString &what, const QString &why)
     return false;
 }
 
+bool HistoryDatabase::readable(QString *error) const
+{
+    if (error)
+        *error = m_error;
+    return isOpen();
+}
+
+void HistoryDatabase::readFailed(const QSqlQuery &query, QString *error) const
+{
+    if (error)
+        *error = QStringLiteral("cannot read %1: %2").arg(m_path, query.lastError().text());
+}
+
 bool HistoryDatabase::prepareSchema()
 {
     QSqlDatabase db = QSqlDatabase::database(m_connection, false);
@@ -324,30 +337,40 @@ bool HistoryDatabase::rollUp(UnixSeconds now)
     return true;
 }
 
-std::vector<PeriodEnergy> HistoryDatabase::energy(UnixSeconds from, UnixSeconds to, HistoryPeriod per) const
+std::vector<PeriodEnergy> HistoryDatabase::energy(UnixSeconds from, UnixSeconds to, HistoryPeriod per, QString *error) const
 {
     std::vector<PeriodEnergy> periods;
-    if (!isOpen())
+    if (!readable(error))
         return periods;
-    QString sums;
-    for (const char *column : kEnergyColumns)
-        sums += QStringLiteral(", sum(%1)").arg(QLatin1String(column));
-    // Hours only hold what the minutes no longer do, so the two never count a second twice.
+    QString sums, columns;
+    for (const char *column : kEnergyColumns) {
+        sums += QStringLiteral(", sum(%1) AS %1").arg(QLatin1String(column));
+        columns += QStringLiteral(", %1").arg(QLatin1String(column));
+    }
+    // Hours only hold what the minutes no longer do, so the two never count a second twice. The
+    // period's last row is looked up after grouping: SQLite 3.40 refuses max() of the outer query
+    // inside a subquery's WHERE.
     const QString sql = QStringLiteral(
         "WITH rows AS (SELECT * FROM minutes WHERE start >= :from AND start < :to "
-        "UNION ALL SELECT * FROM hours WHERE start >= :from AND start < :to) "
-        "SELECT %1 AS period, sum(covered_s)%2, min(min_power_w), "
-        "sum(mean_power_w * covered_s) / sum(CASE WHEN mean_power_w IS NULL THEN NULL ELSE covered_s END), max(max_power_w), "
-        "(SELECT battery_percent FROM rows r WHERE r.start = max(rows.start)) "
-        "FROM rows GROUP BY period ORDER BY period")
-                            .arg(periodStart(per), sums);
+        "UNION ALL SELECT * FROM hours WHERE start >= :from AND start < :to), "
+        "periods AS (SELECT %1 AS period, max(start) AS last, sum(covered_s) AS covered%2, min(min_power_w) AS low, "
+        "sum(mean_power_w * covered_s) / sum(CASE WHEN mean_power_w IS NULL THEN NULL ELSE covered_s END) AS mean, "
+        "max(max_power_w) AS high FROM rows GROUP BY period) "
+        "SELECT period, covered%3, low, mean, high, (SELECT battery_percent FROM rows r WHERE r.start = periods.last) "
+        "FROM periods ORDER BY period")
+                            .arg(periodStart(per), sums, columns);
     QSqlQuery query(QSqlDatabase::database(m_connection, false));
     query.setForwardOnly(true);
-    query.prepare(sql);
+    if (!query.prepare(sql)) {
+        readFailed(query, error);
+        return periods;
+    }
     query.bindValue(QStringLiteral(":from"), static_cast<qlonglong>(from));
     query.bindValue(QStringLiteral(":to"), static_cast<qlonglong>(to));
-    if (!query.exec())
+    if (!query.exec()) {
+        readFailed(query, error);
         return periods;
+    }
     while (query.next()) {
         PeriodEnergy period;
         period.start = query.value(0).toLongLong();
@@ -358,13 +381,15 @@ std::vector<PeriodEnergy> HistoryDatabase::energy(UnixSeconds from, UnixSeconds 
         period.batteryPercent = optionalInteger(query.value(13));
         periods.push_back(period);
     }
+    if (query.lastError().isValid()) // a page that could not be read on the way
+        readFailed(query, error);
     return periods;
 }
 
-std::vector<SessionRecord> HistoryDatabase::sessions(UnixSeconds from, UnixSeconds to, int limit) const
+std::vector<SessionRecord> HistoryDatabase::sessions(UnixSeconds from, UnixSeconds to, int limit, QString *error) const
 {
     std::vector<SessionRecord> sessions;
-    if (!isOpen())
+    if (!readable(error))
         return sessions;
     QSqlQuery query(QSqlDatabase::database(m_connection, false));
     query.setForwardOnly(true);
@@ -373,8 +398,10 @@ std::vector<SessionRecord> HistoryDatabase::sessions(UnixSeconds from, UnixSecon
     query.addBindValue(static_cast<qlonglong>(from));
     query.addBindValue(static_cast<qlonglong>(to));
     query.addBindValue(limit);
-    if (!query.exec())
+    if (!query.exec()) {
+        readFailed(query, error);
         return sessions;
+    }
     while (query.next()) {
         SessionRecord session;
         session.start = query.value(0).toLongLong();
@@ -388,6 +415,8 @@ std::vector<SessionRecord> HistoryDatabase::sessions(UnixSeconds from, UnixSecon
         session.batteryId = optionalValue<QString>(query.value(8));
         sessions.push_back(session);
     }
+    if (query.lastError().isValid())
+        readFailed(query, error);
     return sessions;
 }
 
