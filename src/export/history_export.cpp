@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cmath>
-#include <span>
 #include <variant>
 
 namespace ferrow {
