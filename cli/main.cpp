@@ -4,6 +4,8 @@
 #include "app/text_table.h"
 #include "export/http_request.h"
 #include "export/snapshot_json.h"
+#include "history/history_recorder.h"
+#include "history_command.h"
 #include "platform/native_machine.h"
 #include "serve_command.h"
 
@@ -12,6 +14,8 @@
 #include <QJsonDocument>
 #include <QTextStream>
 #include <QThread>
+
+#include <algorithm>
 
 using namespace ferrow;
 
@@ -45,9 +49,61 @@ int main(int argc, char *argv[])
             .arg(kDefaultMetricsPort),
         QStringLiteral("ADDRESS:PORT"));
     parser.addOption(serveOption);
+    const QCommandLineOption historyOption(
+        QStringLiteral("history"),
+        QStringLiteral("Print the energy the application has stored, one row per period, as CSV or JSON (docs/history-database.md)."));
+    const QCommandLineOption sessionsOption(QStringLiteral("sessions"),
+                                            QStringLiteral("Print the stored stretches on battery and on external power, newest first."));
+    const QCommandLineOption fromOption(
+        QStringLiteral("from"),
+        QStringLiteral("With --history or --sessions: where to start, an ISO 8601 date (its local midnight) or date-time (as given with Z "
+                       "or an offset, else local time). Default: 30 days ago."),
+        QStringLiteral("DATE"));
+    const QCommandLineOption toOption(QStringLiteral("to"), QStringLiteral("With --history or --sessions: where to stop, as --from. Default: now."),
+                                      QStringLiteral("DATE"));
+    const QCommandLineOption perOption(QStringLiteral("per"), QStringLiteral("With --history: one row per minute, hour or day (default)."),
+                                       QStringLiteral("PERIOD"), QStringLiteral("day"));
+    const QCommandLineOption formatOption(QStringLiteral("format"), QStringLiteral("With --history or --sessions: csv (default) or json."),
+                                          QStringLiteral("FORMAT"), QStringLiteral("csv"));
+    const QCommandLineOption databaseOption(
+        QStringLiteral("database"),
+        QStringLiteral("With --history or --sessions: the history file to read, never written (default: %1).").arg(HistoryRecorder::defaultDatabasePath()),
+        QStringLiteral("PATH"));
+    parser.addOptions({historyOption, sessionsOption, fromOption, toOption, perOption, formatOption, databaseOption});
     parser.process(application);
 
     QTextStream err(stderr);
+    const bool history = parser.isSet(historyOption) || parser.isSet(sessionsOption);
+    const bool historyOptions = parser.isSet(fromOption) || parser.isSet(toOption) || parser.isSet(perOption)
+                             || parser.isSet(formatOption) || parser.isSet(databaseOption);
+    if (history) {
+        const QList<QCommandLineOption> others = {sourceOption, onceOption, watchOption, jsonOption, recordOption, diagnoseOption, serveOption};
+        if (std::any_of(others.begin(), others.end(), [&](const QCommandLineOption &option) { return parser.isSet(option); })) {
+            err << "ferrow-cli: --history and --sessions take only --from, --to, --per, --format and --database\n";
+            return 2;
+        }
+        if (parser.isSet(historyOption) && parser.isSet(sessionsOption)) {
+            err << "ferrow-cli: --history and --sessions exclude each other\n";
+            return 2;
+        }
+        if (parser.isSet(sessionsOption) && parser.isSet(perOption)) {
+            err << "ferrow-cli: --per goes with --history only\n";
+            return 2;
+        }
+        const auto given = [&](const QCommandLineOption &option) {
+            return parser.isSet(option) ? std::optional(parser.value(option)) : std::nullopt;
+        };
+        return printHistory({.sessions = parser.isSet(sessionsOption),
+                             .from = given(fromOption),
+                             .to = given(toOption),
+                             .per = parser.value(perOption),
+                             .format = parser.value(formatOption),
+                             .database = parser.value(databaseOption)});
+    }
+    if (historyOptions) {
+        err << "ferrow-cli: --from, --to, --per, --format and --database go with --history or --sessions\n";
+        return 2;
+    }
     if (parser.isSet(serveOption)
         && (parser.isSet(onceOption) || parser.isSet(watchOption) || parser.isSet(jsonOption) || parser.isSet(recordOption))) {
         err << "ferrow-cli: --serve takes no --once, --watch, --json or --record\n";

@@ -6,6 +6,7 @@
 #include "platform/native_machine.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QTextStream>
 
 namespace ferrow {
@@ -22,8 +23,18 @@ int serveMetrics(std::unique_ptr<SnapshotReader> reader, const QString &address,
     // No sleep and wake here: a sleeping machine is not scraped, and the timer catches up on wake.
     PowerMonitor monitor(std::move(reader), nullptr);
     bool hasReading = false;
-    QObject::connect(&monitor, &PowerMonitor::snapshotChanged, &monitor, [&hasReading] { hasReading = true; });
-    MetricsServer server([&] { return metricsExposition(hasReading ? &monitor.snapshot() : nullptr, QStringLiteral(FERROW_VERSION)); });
+    EnergyTotals energy;
+    // The monotonic clock: a wall clock set back or forward would make or lose energy.
+    QElapsedTimer sinceLastReading;
+    QObject::connect(&monitor, &PowerMonitor::snapshotChanged, &monitor, [&] {
+        hasReading = true;
+        if (sinceLastReading.isValid())
+            energy.add(monitor.snapshot(), static_cast<double>(sinceLastReading.nsecsElapsed()) / 1e9);
+        sinceLastReading.start();
+    });
+    MetricsServer server([&] {
+        return metricsExposition(hasReading ? &monitor.snapshot() : nullptr, QStringLiteral(FERROW_VERSION), &energy);
+    });
     QString error;
     if (!server.listen(*listenAddress, &error)) {
         err << "ferrow-cli: cannot serve metrics on " << address << ": " << error << '\n';

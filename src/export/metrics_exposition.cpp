@@ -111,15 +111,21 @@ void addSamples(std::vector<Sample> &samples, const SnapshotField &field, const 
 
 class Exposition {
 public:
+    void gauge(const char *name, const char *help, const std::vector<Sample> &samples) { family(name, help, "gauge", samples); }
+    void counter(const char *name, const char *help, const std::vector<Sample> &samples) { family(name, help, "counter", samples); }
+
+    QByteArray text;
+
+private:
     // A family without one finite sample is left out whole, its HELP and TYPE lines too.
-    void gauge(const char *name, const char *help, const std::vector<Sample> &samples)
+    void family(const char *name, const char *help, const char *type, const std::vector<Sample> &samples)
     {
         bool introduced = false;
         for (const Sample &sample : samples) {
             if (!sample.value || !std::isfinite(*sample.value))
                 continue;
             if (!introduced) {
-                text += QByteArray("# HELP ") + name + ' ' + help + "\n# TYPE " + name + " gauge\n";
+                text += QByteArray("# HELP ") + name + ' ' + help + "\n# TYPE " + name + ' ' + type + '\n';
                 introduced = true;
             }
             text += name;
@@ -128,13 +134,38 @@ public:
             text += ' ' + QByteArray::number(*sample.value, 'g', QLocale::FloatingPointShortest) + '\n';
         }
     }
-
-    QByteArray text;
 };
+
+std::optional<double> joules(const std::optional<double> &wattHours)
+{
+    return wattHours ? std::optional(*wattHours * 3600.0) : std::nullopt;
+}
+
+void writeEnergy(Exposition &out, const EnergyTotals &energy)
+{
+    out.counter("ferrow_input_energy_joules_total", "Energy drawn from the external power input since the exporter started.",
+                {{{}, joules(energy.adapterWh)}});
+    out.counter("ferrow_system_energy_joules_total", "Energy consumed by the system since the exporter started.",
+                {{{}, joules(energy.systemWh)}});
+    out.counter("ferrow_battery_charge_energy_joules_total", "Energy that went into the battery since the exporter started.",
+                {{{}, joules(energy.batteryInWh)}});
+    out.counter("ferrow_battery_discharge_energy_joules_total", "Energy that came out of the battery since the exporter started.",
+                {{{}, joules(energy.batteryOutWh)}});
+    // The chip power metric's own labels, in the order EnergyTotals keeps the domains.
+    std::vector<Sample> chip;
+    std::size_t domain = 0;
+    for (const SnapshotField &field : snapshotFields()) {
+        if (domain < kChipDomains && field.metric && QByteArrayView(field.metric) == "ferrow_chip_power_watts") {
+            chip.push_back({label(field.label, QString::fromLatin1(field.labelValue)), joules(energy.chipWh[domain])});
+            ++domain;
+        }
+    }
+    out.counter("ferrow_chip_energy_joules_total", "Energy of one block of the processor package since the exporter started.", chip);
+}
 
 } // namespace
 
-QByteArray metricsExposition(const PowerSnapshot *reading, QStringView version)
+QByteArray metricsExposition(const PowerSnapshot *reading, QStringView version, const EnergyTotals *energySinceStart)
 {
     Exposition out;
     out.text.reserve(8192); // a full reading takes about 7 KB
@@ -159,6 +190,8 @@ QByteArray metricsExposition(const PowerSnapshot *reading, QStringView version)
         }
         writeFamily();
     }
+    if (energySinceStart)
+        writeEnergy(out, *energySinceStart);
     out.gauge("ferrow_build_info", "The exporter's version.", {{label("version", version), 1.0}});
     return out.text;
 }

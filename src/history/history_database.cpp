@@ -205,6 +205,19 @@ bool HistoryDatabase::fail(const QString &what, const QString &why)
     return false;
 }
 
+bool HistoryDatabase::readable(QString *error) const
+{
+    if (error)
+        *error = m_error;
+    return isOpen();
+}
+
+void HistoryDatabase::readFailed(const QSqlQuery &query, QString *error) const
+{
+    if (error)
+        *error = QStringLiteral("cannot read %1: %2").arg(m_path, query.lastError().text());
+}
+
 bool HistoryDatabase::prepareSchema()
 {
     QSqlDatabase db = QSqlDatabase::database(m_connection, false);
@@ -347,10 +360,10 @@ bool HistoryDatabase::rollUp(UnixSeconds now)
     return true;
 }
 
-std::vector<PeriodEnergy> HistoryDatabase::energy(UnixSeconds from, UnixSeconds to, HistoryPeriod per) const
+std::vector<PeriodEnergy> HistoryDatabase::energy(UnixSeconds from, UnixSeconds to, HistoryPeriod per, QString *error) const
 {
     std::vector<PeriodEnergy> periods;
-    if (!isOpen())
+    if (!readable(error))
         return periods;
     QSqlDatabase db = QSqlDatabase::database(m_connection, false);
     QSqlQuery query(db);
@@ -358,14 +371,19 @@ std::vector<PeriodEnergy> HistoryDatabase::energy(UnixSeconds from, UnixSeconds 
     // Hours only hold what the minutes no longer do, so the two never count a second twice.
     const QString columns = QStringLiteral("start, covered_s, adapter_wh, system_wh, battery_in_wh, battery_out_wh, cpu_wh, gpu_wh, ane_wh, "
                                            "ram_wh, min_power_w, mean_power_w, max_power_w, battery_percent");
-    query.prepare(QStringLiteral("SELECT %1 FROM minutes WHERE start >= ? AND start < ? UNION ALL SELECT %1 FROM hours WHERE start >= ? AND start < ?")
-                      .arg(columns));
+    if (!query.prepare(QStringLiteral("SELECT %1 FROM minutes WHERE start >= ? AND start < ? UNION ALL SELECT %1 FROM hours WHERE start >= ? AND start < ?")
+                           .arg(columns))) {
+        readFailed(query, error);
+        return periods;
+    }
     for (int table = 0; table < 2; ++table) {
         query.addBindValue(static_cast<qlonglong>(from));
         query.addBindValue(static_cast<qlonglong>(to));
     }
-    if (!query.exec())
+    if (!query.exec()) {
+        readFailed(query, error);
         return periods;
+    }
 
     // Summed here rather than in SQL: the local calendar is worked out once per day, not per row.
     struct Sum {
@@ -401,13 +419,15 @@ std::vector<PeriodEnergy> HistoryDatabase::energy(UnixSeconds from, UnixSeconds 
             sum.period.meanPowerW = sum.powerWs / sum.powerS;
         periods.push_back(std::move(sum.period));
     }
+    if (query.lastError().isValid()) // a page that could not be read on the way
+        readFailed(query, error);
     return periods;
 }
 
-std::vector<SessionRecord> HistoryDatabase::sessions(UnixSeconds from, UnixSeconds to, int limit) const
+std::vector<SessionRecord> HistoryDatabase::sessions(UnixSeconds from, UnixSeconds to, int limit, QString *error) const
 {
     std::vector<SessionRecord> sessions;
-    if (!isOpen())
+    if (!readable(error))
         return sessions;
     QSqlQuery query(QSqlDatabase::database(m_connection, false));
     query.setForwardOnly(true);
@@ -416,8 +436,10 @@ std::vector<SessionRecord> HistoryDatabase::sessions(UnixSeconds from, UnixSecon
     query.addBindValue(static_cast<qlonglong>(from));
     query.addBindValue(static_cast<qlonglong>(to));
     query.addBindValue(limit);
-    if (!query.exec())
+    if (!query.exec()) {
+        readFailed(query, error);
         return sessions;
+    }
     while (query.next()) {
         SessionRecord session;
         session.start = query.value(0).toLongLong();
@@ -431,6 +453,8 @@ std::vector<SessionRecord> HistoryDatabase::sessions(UnixSeconds from, UnixSecon
         session.batteryId = optionalValue<QString>(query.value(8));
         sessions.push_back(session);
     }
+    if (query.lastError().isValid())
+        readFailed(query, error);
     return sessions;
 }
 

@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+class QSqlQuery;
+
 namespace ferrow {
 
 // How finely stored energy is listed: by the minute, the hour, the local day or the local month.
@@ -46,15 +48,19 @@ public:
     bool write(const std::vector<MinuteRecord> &minutes, const std::vector<SessionRecord> &sessions,
                const std::vector<BatteryDayRecord> &batteryDays, UnixSeconds now);
 
-    std::vector<PeriodEnergy> energy(UnixSeconds from, UnixSeconds to, HistoryPeriod per) const;
+    // A failed read gives an empty list, which alone would look like a stretch with nothing
+    // stored: error, when given, says why (and is left empty on success).
+    std::vector<PeriodEnergy> energy(UnixSeconds from, UnixSeconds to, HistoryPeriod per, QString *error = nullptr) const;
     // Sessions that ended at or after from and started before to, newest first.
-    std::vector<SessionRecord> sessions(UnixSeconds from, UnixSeconds to, int limit = -1) const;
+    std::vector<SessionRecord> sessions(UnixSeconds from, UnixSeconds to, int limit = -1, QString *error = nullptr) const;
     std::vector<BatteryDayRecord> batteryDays() const;
     // The first stored second, absent while nothing is stored.
     std::optional<UnixSeconds> firstRecord() const;
 
 private:
     bool fail(const QString &what, const QString &why);
+    bool readable(QString *error) const;
+    void readFailed(const QSqlQuery &query, QString *error) const;
     bool prepareSchema();
     bool rollUp(UnixSeconds now);
 

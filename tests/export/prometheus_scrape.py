@@ -5,7 +5,7 @@ Usage: prometheus_scrape.py FERROW_CLI scrape|promtool|robustness
 
   scrape      a real Prometheus scrapes it every second; its query API must return a plausible
               ferrow_system_power_watts after two scrapes.
-  promtool    `promtool check metrics` accepts the scraped text.
+  promtool    `promtool check metrics` accepts the scraped text, energy counters included.
   robustness  a 1 MB request, a client that sends nothing and 100 connections at once leave the
               exporter answering /metrics, with fresh readings.
 
@@ -113,7 +113,11 @@ def check_scrape(port, scratch):
 
 def check_promtool(port):
     promtool = shutil.which("promtool")
+    # The energy counters need a second reading: lint them too.
+    wait_until("the energy counters", lambda: "ferrow_system_energy_joules_total " in http_get(port, timeout=1)[2], 20)
     _, headers, text = http_get(port)
+    if "# TYPE ferrow_system_energy_joules_total counter" not in text:
+        fail("ferrow_system_energy_joules_total is not a counter")
     if headers.get("Content-Type") != "text/plain; version=0.0.4; charset=utf-8":
         fail(f"Content-Type is {headers.get('Content-Type')}")
     checked = subprocess.run([promtool, "check", "metrics"], input=text, capture_output=True, text=True)

@@ -11,6 +11,7 @@
 using namespace ferrow;
 
 Q_DECLARE_METATYPE(ferrow::PowerSnapshot)
+Q_DECLARE_METATYPE(ferrow::EnergyTotals)
 
 namespace {
 
@@ -127,6 +128,49 @@ private slots:
         QCOMPARE(written.contains(series), !value.isEmpty());
     }
 
+    // Energy since the exporter started, in joules; a quantity never measured has no series.
+    void energy_data()
+    {
+        QTest::addColumn<EnergyTotals>("energy");
+        QTest::addColumn<QByteArray>("series");
+        QTest::addColumn<QByteArray>("value"); // empty: no such series
+
+        EnergyTotals charging;
+        charging.add(notebook(), 2.0);
+        charging.add(notebook(), 1.0);
+        QTest::newRow("input from readings") << charging << QByteArray("ferrow_input_energy_joules_total") << QByteArray("180");
+        QTest::newRow("system from readings") << charging << QByteArray("ferrow_system_energy_joules_total") << QByteArray("43.5");
+        QTest::newRow("charge from readings") << charging << QByteArray("ferrow_battery_charge_energy_joules_total") << QByteArray("136.5");
+        QTest::newRow("no discharge while charging: 0")
+            << charging << QByteArray("ferrow_battery_discharge_energy_joules_total") << QByteArray("0");
+        QTest::newRow("chip domain labelled as its power")
+            << charging << QByteArray("ferrow_chip_energy_joules_total{domain=\"cpu\"}") << QByteArray("9.75");
+        QTest::newRow("last chip domain") << charging << QByteArray("ferrow_chip_energy_joules_total{domain=\"ram\"}") << QByteArray("2.25");
+        QTest::newRow("unmeasured chip domain") << charging << QByteArray("ferrow_chip_energy_joules_total{domain=\"ane\"}") << QByteArray();
+        QTest::newRow("gap: nothing counted") << [] { EnergyTotals e; e.add(notebook(), 60.0); return e; }()
+                                               << QByteArray("ferrow_input_energy_joules_total") << QByteArray();
+        QTest::newRow("desktop: no battery energy") << [] { EnergyTotals e; e.add(desktop(), 1.0); return e; }()
+                                                    << QByteArray("ferrow_battery_charge_energy_joules_total") << QByteArray();
+        QTest::newRow("no telemetry: no system energy") << [] {
+            EnergyTotals e;
+            auto r = notebook();
+            r.isDataAvailable = false;
+            e.add(r, 1.0);
+            return e;
+        }() << QByteArray("ferrow_system_energy_joules_total") << QByteArray();
+    }
+
+    void energy()
+    {
+        QFETCH(EnergyTotals, energy);
+        QFETCH(QByteArray, series);
+        QFETCH(QByteArray, value);
+        const PowerSnapshot reading = notebook();
+        const QMap<QByteArray, QByteArray> written = samples(metricsExposition(&reading, u"1.2.3", &energy));
+        QCOMPARE(written.value(series), value);
+        QCOMPARE(written.contains(series), !value.isEmpty());
+    }
+
     void labelEscaping_data()
     {
         QTest::addColumn<QString>("name");
@@ -150,8 +194,9 @@ private slots:
                  QByteArray("1"));
     }
 
-    // Each family comes once, as a gauge, its samples right after it; a full reading has exactly
-    // the families the metrics document lists, and before the first reading only the build's.
+    // Each family comes once, a counter when its name says so and a gauge otherwise, its samples
+    // right after it; a full reading with its energy has exactly the families the metrics document
+    // lists, and before the first reading only the build's.
     void families_data()
     {
         QTest::addColumn<bool>("hasReading");
@@ -174,7 +219,9 @@ private slots:
         std::optional<PowerSnapshot> reading = readRecordedSnapshot(QStringLiteral(QT_TESTCASE_SOURCEDIR "/fixtures/notebook-charging-26"), &error);
         QVERIFY2(reading, qPrintable(error));
         reading->lifetimeMaxDischargeCurrentA = 4.5; // the one figure the recording lacks
-        const QByteArray text = metricsExposition(hasReading ? &*reading : nullptr, u"1.2.3");
+        EnergyTotals energy;
+        energy.add(*reading, 1.0);
+        const QByteArray text = metricsExposition(hasReading ? &*reading : nullptr, u"1.2.3", hasReading ? &energy : nullptr);
         QVERIFY(text.endsWith('\n'));
 
         QStringList families, typed;
@@ -183,7 +230,7 @@ private slots:
             if (line.startsWith("# HELP ")) {
                 families << QString::fromLatin1(words[2]);
             } else if (line.startsWith("# TYPE ")) {
-                QVERIFY2(words[3] == "gauge", line.constData());
+                QVERIFY2(words[3] == (words[2].endsWith("_total") ? "counter" : "gauge"), line.constData());
                 typed << QString::fromLatin1(words[2]);
             } else {
                 const QByteArray name = line.left(line.indexOf(line.contains('{') ? '{' : ' '));

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace ferrow {
+
+// What --history and --sessions were given, as typed.
+struct HistoryOptions {
+    bool sessions = false; // --sessions rather than --history
+    std::optional<QString> from;
+    std::optional<QString> to;
+    QString per;
+    QString format;
+    QString database; // empty: the application's
+};
+
+// Prints the stored energy per period, or the sessions, as CSV or JSON on stdout. The database is
+// opened read-only, so this is safe while the application writes it. Returns the exit status; a
+// bad option or an unreadable database is one line on stderr.
+int printHistory(const HistoryOptions &options);
+
+} // namespace ferrow
