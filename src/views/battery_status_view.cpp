@@ -10,10 +10,29 @@
 
 namespace ferrow {
 
+namespace {
+
+constexpr int kCardHeight = 76;
+constexpr int kSessionLineHeight = 15;
+
+} // namespace
+
 BatteryStatusView::BatteryStatusView(QWidget *parent)
     : SnapshotView(parent)
 {
-    setFixedHeight(76);
+    fitHeight();
+}
+
+void BatteryStatusView::setSessionText(const QString &text)
+{
+    m_sessionText = text;
+    fitHeight();
+    update();
+}
+
+void BatteryStatusView::fitHeight()
+{
+    setFixedHeight(kCardHeight + (m_sessionText.isEmpty() ? 0 : kSessionLineHeight));
 }
 
 void paintBatterySegments(QPainter &painter, const QRectF &rect, std::int64_t level, const FerrowPalette &palette)
@@ -94,6 +113,10 @@ void BatteryStatusView::paintEvent(QPaintEvent *)
     for (int i = 0; i < 3; ++i) {
         paintCompactMetric(painter, QRectF(content.left() + i * (metricWidth + 8), metricTop, metricWidth, 24),
                            localizedText(metrics[i].label), metrics[i].value, metrics[i].color, palette);
+    }
+    if (!m_sessionText.isEmpty()) {
+        painter.setPen(palette.secondaryText());
+        drawFittedText(painter, QRectF(content.left(), metricTop + 27, content.width(), 13), m_sessionText, uiFont(9), 0.85, Qt::AlignLeft);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "model/value_text.h"
 #include "views/battery_status_view.h"
 #include "views/divider.h"
+#include "views/history_model.h"
 #include "views/meter_row.h"
 #include "views/popover/details_button.h"
 #include "views/popover/meter_caption.h"
@@ -85,6 +86,22 @@ void DashboardView::setSnapshot(const PowerSnapshot &s)
     m_flow->setSnapshot(s);
     m_battery->setSnapshot(s);
     m_telemetry->setSnapshot(s);
+    if (s.hasBattery != m_hasBattery) {
+        m_hasBattery = s.hasBattery;
+        showSession();
+    }
+}
+
+void DashboardView::setCurrentSession(std::optional<SessionRecord> session, UnixSeconds now)
+{
+    m_session = std::move(session);
+    m_sessionNow = now;
+    showSession();
+}
+
+void DashboardView::showSession()
+{
+    m_battery->setSessionText(m_session && m_hasBattery ? currentSessionText(*m_session, m_sessionNow) : QString());
 }
 
 void DashboardView::setFerrowPalette(const FerrowPalette &palette)
