@@ -329,18 +329,23 @@ std::vector<PeriodEnergy> HistoryDatabase::energy(UnixSeconds from, UnixSeconds 
     std::vector<PeriodEnergy> periods;
     if (!isOpen())
         return periods;
-    QString sums;
-    for (const char *column : kEnergyColumns)
-        sums += QStringLiteral(", sum(%1)").arg(QLatin1String(column));
-    // Hours only hold what the minutes no longer do, so the two never count a second twice.
+    QString sums, columns;
+    for (const char *column : kEnergyColumns) {
+        sums += QStringLiteral(", sum(%1) AS %1").arg(QLatin1String(column));
+        columns += QStringLiteral(", %1").arg(QLatin1String(column));
+    }
+    // Hours only hold what the minutes no longer do, so the two never count a second twice. The
+    // battery's percent is the period's last row's, looked up once the periods are summed: SQLite
+    // refuses an aggregate of the outer query inside a subquery's WHERE.
     const QString sql = QStringLiteral(
         "WITH rows AS (SELECT * FROM minutes WHERE start >= :from AND start < :to "
-        "UNION ALL SELECT * FROM hours WHERE start >= :from AND start < :to) "
-        "SELECT %1 AS period, sum(covered_s)%2, min(min_power_w), "
-        "sum(mean_power_w * covered_s) / sum(CASE WHEN mean_power_w IS NULL THEN NULL ELSE covered_s END), max(max_power_w), "
-        "(SELECT battery_percent FROM rows r WHERE r.start = max(rows.start)) "
-        "FROM rows GROUP BY period ORDER BY period")
-                            .arg(periodStart(per), sums);
+        "UNION ALL SELECT * FROM hours WHERE start >= :from AND start < :to), "
+        "periods AS (SELECT %1 AS period, sum(covered_s) AS covered%2, min(min_power_w) AS low, "
+        "sum(mean_power_w * covered_s) / sum(CASE WHEN mean_power_w IS NULL THEN NULL ELSE covered_s END) AS mean, "
+        "max(max_power_w) AS high, max(start) AS last_start FROM rows GROUP BY period) "
+        "SELECT period, covered%3, low, mean, high, (SELECT battery_percent FROM rows r WHERE r.start = periods.last_start) "
+        "FROM periods ORDER BY period")
+                            .arg(periodStart(per), sums, columns);
     QSqlQuery query(QSqlDatabase::database(m_connection, false));
     query.setForwardOnly(true);
     query.prepare(sql);
