@@ -13,6 +13,7 @@
 #include "views/power_flow_view.h"
 #include "views/view_footer.h"
 
+#include <QLayout>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -65,7 +66,8 @@ DashboardView::DashboardView(QWidget *parent)
     column->addWidget(m_meterCaption);
     column->addWidget(m_flow);
     column->addWidget(m_flowDivider);
-    column->addWidget(padded(m_battery, 8, 8, 8, 8));
+    m_batteryBox = padded(m_battery, 8, 8, 8, 8);
+    column->addWidget(m_batteryBox);
     // The pieces fill the popover's height exactly; a point more anywhere squeezes whatever is tallest.
     column->addWidget(padded(m_telemetry, 8, 0, 8, 0));
     column->addWidget(padded(m_details, 8, 5, 8, 0));
@@ -101,7 +103,11 @@ void DashboardView::setCurrentSession(std::optional<SessionRecord> session, Unix
 
 void DashboardView::showSession()
 {
-    m_battery->setSessionText(m_session && m_hasBattery ? currentSessionText(*m_session, m_sessionNow) : QString());
+    const bool shown = m_session && m_hasBattery;
+    m_battery->setSessionText(shown ? currentSessionText(*m_session, m_sessionNow) : QString());
+    // The card's extra height comes out of the room around it.
+    const int gap = shown ? 5 : 8;
+    m_batteryBox->layout()->setContentsMargins(8, gap, 8, gap);
 }
 
 void DashboardView::setFerrowPalette(const FerrowPalette &palette)

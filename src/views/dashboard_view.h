@@ -67,6 +67,7 @@ private:
     MeterCaption *m_meterCaption;
     PowerFlowView *m_flow;
     Divider *m_flowDivider;
+    QWidget *m_batteryBox = nullptr;
     BatteryStatusView *m_battery;
     TelemetryCard *m_telemetry;
     DetailsButton *m_details;

@@ -109,12 +109,11 @@ double energyAxisTop(const std::vector<EnergyBar> &bars)
     double tallest = 0;
     for (const EnergyBar &bar : bars)
         tallest = std::max(tallest, bar.adapterWh.value_or(0) + bar.batteryWh.value_or(0));
-    double top = 10;
-    for (double decade = 10; top < tallest; decade *= 10)
-        for (const double step : {2.0, 5.0, 10.0})
-            if (top < tallest)
-                top = step * decade;
-    return top;
+    // Tops whose fifths (the axis's five intervals) are round figures too.
+    for (double decade = 10;; decade *= 10)
+        for (const double multiple : {1.0, 1.5, 2.0, 2.5, 3.0, 4.0, 5.0, 7.5})
+            if (multiple * decade >= tallest)
+                return multiple * decade;
 }
 
 QString formatWithout(const QString &format, QChar field, int minimumRun)
@@ -209,7 +208,8 @@ QString sessionDurationText(std::int64_t seconds)
 
 SessionRowText sessionRowText(const SessionRecord &s, const QLocale &locale)
 {
-    const QString started = locale.toString(QDateTime::fromSecsSinceEpoch(s.start), QLocale::ShortFormat);
+    const QDateTime start = QDateTime::fromSecsSinceEpoch(s.start);
+    const QString started = locale.toString(start.date(), QLocale::ShortFormat) + u' ' + timeOfDayText(start.time(), locale, Seconds::hidden);
     return {
         localizedText(s.externalPower ? "session.on_adapter" : "session.on_battery"),
         started + QStringLiteral(" \u00B7 ") + sessionDurationText(s.end - s.start),

@@ -31,7 +31,7 @@ std::vector<EnergyBar> energyBars(const HistoryOverview &overview, EnergyRange r
 // Whether the axis names bar index of count: all of a week or a year, every fifth day back from today.
 bool isLabelledBar(std::size_t index, std::size_t count, EnergyRange range);
 QString energyBarLabel(const QDate &date, EnergyRange range, const QLocale &locale);
-// The top of the energy axis: the tallest stack rounded up to 1, 2 or 5 times a power of ten (10 Wh at least).
+// The top of the energy axis: the tallest stack rounded up to a round figure (10 Wh at least).
 double energyAxisTop(const std::vector<EnergyBar> &bars);
 
 // A date format with one field taken out along with the separators and quoted words that tie it to

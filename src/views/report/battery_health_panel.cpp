@@ -58,7 +58,7 @@ BatteryHealthPanel::Plot BatteryHealthPanel::makePlot(const char *titleKey, cons
     plot.days->setFormat(dayMonthFormat(QLocale()));
     plot.days->setTickCount(6);
     plot.values->setLabelFormat(QString::fromLatin1(valueFormat));
-    plot.values->setTickCount(5);
+    plot.values->setTickType(QValueAxis::TicksDynamic);
     plot.values->setLineVisible(false);
     plot.view->setRenderHint(QPainter::Antialiasing);
     plot.view->setStyleSheet(QStringLiteral("background: transparent"));
@@ -102,7 +102,11 @@ void BatteryHealthPanel::fill(Plot &plot, const std::vector<BatterySeries> &batt
     // A day either side, so a single day still has room; the values to whole steps around them.
     const QDate from = first.value_or(QDate::currentDate()).addDays(-1), to = last.value_or(QDate::currentDate()).addDays(1);
     plot.days->setRange(QDateTime(from, QTime(12, 0)), QDateTime(to, QTime(12, 0)));
-    plot.values->setRange(std::floor(low.value_or(0) / step - 1) * step, std::ceil(high.value_or(step) / step) * step);
+    const double bottom = std::floor(low.value_or(0) / step - 1) * step, top = std::ceil(high.value_or(step) / step) * step;
+    plot.values->setRange(bottom, top);
+    // Marks on whole steps, no more than five intervals of them.
+    plot.values->setTickAnchor(bottom);
+    plot.values->setTickInterval(step * std::max(1.0, std::ceil((top - bottom) / step / 5)));
 }
 
 void BatteryHealthPanel::applyPalette(Plot &plot)
