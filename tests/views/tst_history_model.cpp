@@ -156,10 +156,11 @@ private slots:
         QTest::addColumn<double>("top");
         QTest::newRow("nothing") << QList<double>{} << 10.0;
         QTest::newRow("under ten") << QList<double>{4, 0} << 10.0;
-        QTest::newRow("stacked parts add up") << QList<double>{3, 48} << 100.0;
-        QTest::newRow("to two") << QList<double>{15, 0, 2, 2} << 20.0;
+        QTest::newRow("stacked parts add up") << QList<double>{3, 48} << 75.0;
+        QTest::newRow("the tallest of several") << QList<double>{16, 0, 2, 2} << 20.0;
         QTest::newRow("exactly five hundred") << QList<double>{300, 200} << 500.0;
-        QTest::newRow("past a hundred") << QList<double>{120, 0} << 200.0;
+        QTest::newRow("just past a round figure") << QList<double>{250.5, 0} << 300.0;
+        QTest::newRow("into the next decade") << QList<double>{760, 0} << 1000.0;
     }
 
     void energyAxisTop()
