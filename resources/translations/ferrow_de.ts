@@ -470,5 +470,122 @@
         <source>USB-C %1 V</source>
         <translation>USB-C %1 V</translation>
     </message>
+    <message id="section.energy_history">
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message id="energy_history.off">
+        <source>History is off.</source>
+        <translation>Der Verlauf ist ausgeschaltet.</translation>
+    </message>
+    <message id="energy_history.failing">
+        <source>History is not being kept: %1</source>
+        <translation>Es wird kein Verlauf geführt: %1</translation>
+    </message>
+    <message id="energy_history.empty">
+        <source>No history yet: Ferrow records energy once a minute.</source>
+        <translation>Noch kein Verlauf: Ferrow zeichnet die Energie einmal pro Minute auf.</translation>
+    </message>
+    <message id="energy_history.since">
+        <source>Ferrow has been keeping history since %1</source>
+        <translation>Ferrow führt den Verlauf seit %1</translation>
+    </message>
+    <message id="energy_history.range">
+        <source>Range</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message id="energy_history.week">
+        <source>7 days</source>
+        <translation>7 Tage</translation>
+    </message>
+    <message id="energy_history.month">
+        <source>30 days</source>
+        <translation>30 Tage</translation>
+    </message>
+    <message id="energy_history.year">
+        <source>12 months</source>
+        <translation>12 Monate</translation>
+    </message>
+    <message id="energy_history.energy">
+        <source>Energy</source>
+        <translation>Energie</translation>
+    </message>
+    <message id="energy_history.adapter">
+        <source>From the adapter</source>
+        <translation>Vom Netzteil</translation>
+    </message>
+    <message id="energy_history.battery">
+        <source>From the battery</source>
+        <translation>Vom Akku</translation>
+    </message>
+    <message id="energy_history.nothing_in_range">
+        <source>Nothing recorded in this period</source>
+        <translation>In diesem Zeitraum nichts aufgezeichnet</translation>
+    </message>
+    <message id="energy_history.sessions">
+        <source>Recent sessions</source>
+        <translation>Letzte Sitzungen</translation>
+    </message>
+    <message id="energy_history.no_sessions">
+        <source>No sessions recorded yet.</source>
+        <translation>Noch keine Sitzungen aufgezeichnet.</translation>
+    </message>
+    <message id="energy_history.batteries">
+        <source>Battery health over time</source>
+        <translation>Akkuzustand im Verlauf</translation>
+    </message>
+    <message id="energy_history.health">
+        <source>Health (%)</source>
+        <translation>Zustand (%)</translation>
+    </message>
+    <message id="energy_history.capacity">
+        <source>Full-charge capacity (mAh)</source>
+        <translation>Volle Ladekapazität (mAh)</translation>
+    </message>
+    <message id="session.on_battery">
+        <source>On battery</source>
+        <translation>Akkubetrieb</translation>
+    </message>
+    <message id="session.on_adapter">
+        <source>On the adapter</source>
+        <translation>Am Netzteil</translation>
+    </message>
+    <message id="session.on_battery_for">
+        <source>On battery for %1 · %2 used</source>
+        <translation>Seit %1 im Akkubetrieb · %2 verbraucht</translation>
+    </message>
+    <message id="session.on_adapter_for">
+        <source>On the adapter for %1 · %2 delivered</source>
+        <translation>Seit %1 am Netzteil · %2 geliefert</translation>
+    </message>
+    <message id="session.mean_peak">
+        <source>Mean %1 · Peak %2</source>
+        <translation>Mittel %1 · Spitze %2</translation>
+    </message>
+    <message id="session.two_units">
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="session.minutes" numerus="yes">
+        <source>%Ln min</source>
+        <translation>
+            <numerusform>%Ln Min.</numerusform>
+            <numerusform>%Ln Min.</numerusform>
+        </translation>
+    </message>
+    <message id="session.hours" numerus="yes">
+        <source>%Ln h</source>
+        <translation>
+            <numerusform>%Ln Std.</numerusform>
+            <numerusform>%Ln Std.</numerusform>
+        </translation>
+    </message>
+    <message id="session.days" numerus="yes">
+        <source>%Ln d</source>
+        <translation>
+            <numerusform>%Ln Tag</numerusform>
+            <numerusform>%Ln Tage</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -470,5 +470,122 @@
         <source>USB-C %1 V</source>
         <translation>USB-C %1 V</translation>
     </message>
+    <message id="section.energy_history">
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message id="energy_history.off">
+        <source>History is off.</source>
+        <translation>History is off.</translation>
+    </message>
+    <message id="energy_history.failing">
+        <source>History is not being kept: %1</source>
+        <translation>History is not being kept: %1</translation>
+    </message>
+    <message id="energy_history.empty">
+        <source>No history yet: Ferrow records energy once a minute.</source>
+        <translation>No history yet: Ferrow records energy once a minute.</translation>
+    </message>
+    <message id="energy_history.since">
+        <source>Ferrow has been keeping history since %1</source>
+        <translation>Ferrow has been keeping history since %1</translation>
+    </message>
+    <message id="energy_history.range">
+        <source>Range</source>
+        <translation>Range</translation>
+    </message>
+    <message id="energy_history.week">
+        <source>7 days</source>
+        <translation>7 days</translation>
+    </message>
+    <message id="energy_history.month">
+        <source>30 days</source>
+        <translation>30 days</translation>
+    </message>
+    <message id="energy_history.year">
+        <source>12 months</source>
+        <translation>12 months</translation>
+    </message>
+    <message id="energy_history.energy">
+        <source>Energy</source>
+        <translation>Energy</translation>
+    </message>
+    <message id="energy_history.adapter">
+        <source>From the adapter</source>
+        <translation>From the adapter</translation>
+    </message>
+    <message id="energy_history.battery">
+        <source>From the battery</source>
+        <translation>From the battery</translation>
+    </message>
+    <message id="energy_history.nothing_in_range">
+        <source>Nothing recorded in this period</source>
+        <translation>Nothing recorded in this period</translation>
+    </message>
+    <message id="energy_history.sessions">
+        <source>Recent sessions</source>
+        <translation>Recent sessions</translation>
+    </message>
+    <message id="energy_history.no_sessions">
+        <source>No sessions recorded yet.</source>
+        <translation>No sessions recorded yet.</translation>
+    </message>
+    <message id="energy_history.batteries">
+        <source>Battery health over time</source>
+        <translation>Battery health over time</translation>
+    </message>
+    <message id="energy_history.health">
+        <source>Health (%)</source>
+        <translation>Health (%)</translation>
+    </message>
+    <message id="energy_history.capacity">
+        <source>Full-charge capacity (mAh)</source>
+        <translation>Full-charge capacity (mAh)</translation>
+    </message>
+    <message id="session.on_battery">
+        <source>On battery</source>
+        <translation>On battery</translation>
+    </message>
+    <message id="session.on_adapter">
+        <source>On the adapter</source>
+        <translation>On the adapter</translation>
+    </message>
+    <message id="session.on_battery_for">
+        <source>On battery for %1 · %2 used</source>
+        <translation>On battery for %1 · %2 used</translation>
+    </message>
+    <message id="session.on_adapter_for">
+        <source>On the adapter for %1 · %2 delivered</source>
+        <translation>On the adapter for %1 · %2 delivered</translation>
+    </message>
+    <message id="session.mean_peak">
+        <source>Mean %1 · Peak %2</source>
+        <translation>Mean %1 · Peak %2</translation>
+    </message>
+    <message id="session.two_units">
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="session.minutes" numerus="yes">
+        <source>%Ln min</source>
+        <translation>
+            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln min</numerusform>
+        </translation>
+    </message>
+    <message id="session.hours" numerus="yes">
+        <source>%Ln h</source>
+        <translation>
+            <numerusform>%Ln h</numerusform>
+            <numerusform>%Ln h</numerusform>
+        </translation>
+    </message>
+    <message id="session.days" numerus="yes">
+        <source>%Ln d</source>
+        <translation>
+            <numerusform>%Ln day</numerusform>
+            <numerusform>%Ln days</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -470,5 +470,122 @@
         <source>USB-C %1 V</source>
         <translation>USB-C %1 V</translation>
     </message>
+    <message id="section.energy_history">
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message id="energy_history.off">
+        <source>History is off.</source>
+        <translation>El historial está desactivado.</translation>
+    </message>
+    <message id="energy_history.failing">
+        <source>History is not being kept: %1</source>
+        <translation>No se está guardando el historial: %1</translation>
+    </message>
+    <message id="energy_history.empty">
+        <source>No history yet: Ferrow records energy once a minute.</source>
+        <translation>Aún no hay historial: Ferrow registra la energía una vez por minuto.</translation>
+    </message>
+    <message id="energy_history.since">
+        <source>Ferrow has been keeping history since %1</source>
+        <translation>Ferrow guarda el historial desde el %1</translation>
+    </message>
+    <message id="energy_history.range">
+        <source>Range</source>
+        <translation>Periodo</translation>
+    </message>
+    <message id="energy_history.week">
+        <source>7 days</source>
+        <translation>7 días</translation>
+    </message>
+    <message id="energy_history.month">
+        <source>30 days</source>
+        <translation>30 días</translation>
+    </message>
+    <message id="energy_history.year">
+        <source>12 months</source>
+        <translation>12 meses</translation>
+    </message>
+    <message id="energy_history.energy">
+        <source>Energy</source>
+        <translation>Energía</translation>
+    </message>
+    <message id="energy_history.adapter">
+        <source>From the adapter</source>
+        <translation>Del adaptador</translation>
+    </message>
+    <message id="energy_history.battery">
+        <source>From the battery</source>
+        <translation>De la batería</translation>
+    </message>
+    <message id="energy_history.nothing_in_range">
+        <source>Nothing recorded in this period</source>
+        <translation>No hay registros en este periodo</translation>
+    </message>
+    <message id="energy_history.sessions">
+        <source>Recent sessions</source>
+        <translation>Sesiones recientes</translation>
+    </message>
+    <message id="energy_history.no_sessions">
+        <source>No sessions recorded yet.</source>
+        <translation>Aún no hay sesiones registradas.</translation>
+    </message>
+    <message id="energy_history.batteries">
+        <source>Battery health over time</source>
+        <translation>Salud de la batería a lo largo del tiempo</translation>
+    </message>
+    <message id="energy_history.health">
+        <source>Health (%)</source>
+        <translation>Salud (%)</translation>
+    </message>
+    <message id="energy_history.capacity">
+        <source>Full-charge capacity (mAh)</source>
+        <translation>Capacidad a carga completa (mAh)</translation>
+    </message>
+    <message id="session.on_battery">
+        <source>On battery</source>
+        <translation>Con batería</translation>
+    </message>
+    <message id="session.on_adapter">
+        <source>On the adapter</source>
+        <translation>Con el adaptador</translation>
+    </message>
+    <message id="session.on_battery_for">
+        <source>On battery for %1 · %2 used</source>
+        <translation>Con batería desde hace %1 · %2 usados</translation>
+    </message>
+    <message id="session.on_adapter_for">
+        <source>On the adapter for %1 · %2 delivered</source>
+        <translation>Con el adaptador desde hace %1 · %2 suministrados</translation>
+    </message>
+    <message id="session.mean_peak">
+        <source>Mean %1 · Peak %2</source>
+        <translation>Media %1 · Pico %2</translation>
+    </message>
+    <message id="session.two_units">
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="session.minutes" numerus="yes">
+        <source>%Ln min</source>
+        <translation>
+            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln min</numerusform>
+        </translation>
+    </message>
+    <message id="session.hours" numerus="yes">
+        <source>%Ln h</source>
+        <translation>
+            <numerusform>%Ln h</numerusform>
+            <numerusform>%Ln h</numerusform>
+        </translation>
+    </message>
+    <message id="session.days" numerus="yes">
+        <source>%Ln d</source>
+        <translation>
+            <numerusform>%Ln día</numerusform>
+            <numerusform>%Ln días</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

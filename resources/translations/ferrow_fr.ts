@@ -470,5 +470,122 @@
         <source>USB-C %1 V</source>
         <translation>USB-C %1 V</translation>
     </message>
+    <message id="section.energy_history">
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message id="energy_history.off">
+        <source>History is off.</source>
+        <translation>L’historique est désactivé.</translation>
+    </message>
+    <message id="energy_history.failing">
+        <source>History is not being kept: %1</source>
+        <translation>L’historique n’est pas conservé : %1</translation>
+    </message>
+    <message id="energy_history.empty">
+        <source>No history yet: Ferrow records energy once a minute.</source>
+        <translation>Pas encore d’historique : Ferrow enregistre l’énergie une fois par minute.</translation>
+    </message>
+    <message id="energy_history.since">
+        <source>Ferrow has been keeping history since %1</source>
+        <translation>Ferrow conserve l’historique depuis le %1</translation>
+    </message>
+    <message id="energy_history.range">
+        <source>Range</source>
+        <translation>Période</translation>
+    </message>
+    <message id="energy_history.week">
+        <source>7 days</source>
+        <translation>7 jours</translation>
+    </message>
+    <message id="energy_history.month">
+        <source>30 days</source>
+        <translation>30 jours</translation>
+    </message>
+    <message id="energy_history.year">
+        <source>12 months</source>
+        <translation>12 mois</translation>
+    </message>
+    <message id="energy_history.energy">
+        <source>Energy</source>
+        <translation>Énergie</translation>
+    </message>
+    <message id="energy_history.adapter">
+        <source>From the adapter</source>
+        <translation>Depuis l’adaptateur</translation>
+    </message>
+    <message id="energy_history.battery">
+        <source>From the battery</source>
+        <translation>Depuis la batterie</translation>
+    </message>
+    <message id="energy_history.nothing_in_range">
+        <source>Nothing recorded in this period</source>
+        <translation>Rien d’enregistré sur cette période</translation>
+    </message>
+    <message id="energy_history.sessions">
+        <source>Recent sessions</source>
+        <translation>Sessions récentes</translation>
+    </message>
+    <message id="energy_history.no_sessions">
+        <source>No sessions recorded yet.</source>
+        <translation>Aucune session enregistrée pour l’instant.</translation>
+    </message>
+    <message id="energy_history.batteries">
+        <source>Battery health over time</source>
+        <translation>Santé de la batterie dans le temps</translation>
+    </message>
+    <message id="energy_history.health">
+        <source>Health (%)</source>
+        <translation>Santé (%)</translation>
+    </message>
+    <message id="energy_history.capacity">
+        <source>Full-charge capacity (mAh)</source>
+        <translation>Capacité à pleine charge (mAh)</translation>
+    </message>
+    <message id="session.on_battery">
+        <source>On battery</source>
+        <translation>Sur batterie</translation>
+    </message>
+    <message id="session.on_adapter">
+        <source>On the adapter</source>
+        <translation>Sur l’adaptateur</translation>
+    </message>
+    <message id="session.on_battery_for">
+        <source>On battery for %1 · %2 used</source>
+        <translation>Sur batterie depuis %1 · %2 consommés</translation>
+    </message>
+    <message id="session.on_adapter_for">
+        <source>On the adapter for %1 · %2 delivered</source>
+        <translation>Sur l’adaptateur depuis %1 · %2 fournis</translation>
+    </message>
+    <message id="session.mean_peak">
+        <source>Mean %1 · Peak %2</source>
+        <translation>Moyenne %1 · Pic %2</translation>
+    </message>
+    <message id="session.two_units">
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="session.minutes" numerus="yes">
+        <source>%Ln min</source>
+        <translation>
+            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln min</numerusform>
+        </translation>
+    </message>
+    <message id="session.hours" numerus="yes">
+        <source>%Ln h</source>
+        <translation>
+            <numerusform>%Ln h</numerusform>
+            <numerusform>%Ln h</numerusform>
+        </translation>
+    </message>
+    <message id="session.days" numerus="yes">
+        <source>%Ln d</source>
+        <translation>
+            <numerusform>%Ln jour</numerusform>
+            <numerusform>%Ln jours</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -470,5 +470,122 @@
         <source>USB-C %1 V</source>
         <translation>USB-C %1 V</translation>
     </message>
+    <message id="section.energy_history">
+        <source>History</source>
+        <translation>Cronologia</translation>
+    </message>
+    <message id="energy_history.off">
+        <source>History is off.</source>
+        <translation>La cronologia è disattivata.</translation>
+    </message>
+    <message id="energy_history.failing">
+        <source>History is not being kept: %1</source>
+        <translation>La cronologia non viene registrata: %1</translation>
+    </message>
+    <message id="energy_history.empty">
+        <source>No history yet: Ferrow records energy once a minute.</source>
+        <translation>Ancora nessuna cronologia: Ferrow registra l’energia una volta al minuto.</translation>
+    </message>
+    <message id="energy_history.since">
+        <source>Ferrow has been keeping history since %1</source>
+        <translation>Ferrow registra la cronologia dal %1</translation>
+    </message>
+    <message id="energy_history.range">
+        <source>Range</source>
+        <translation>Periodo</translation>
+    </message>
+    <message id="energy_history.week">
+        <source>7 days</source>
+        <translation>7 giorni</translation>
+    </message>
+    <message id="energy_history.month">
+        <source>30 days</source>
+        <translation>30 giorni</translation>
+    </message>
+    <message id="energy_history.year">
+        <source>12 months</source>
+        <translation>12 mesi</translation>
+    </message>
+    <message id="energy_history.energy">
+        <source>Energy</source>
+        <translation>Energia</translation>
+    </message>
+    <message id="energy_history.adapter">
+        <source>From the adapter</source>
+        <translation>Dall’alimentatore</translation>
+    </message>
+    <message id="energy_history.battery">
+        <source>From the battery</source>
+        <translation>Dalla batteria</translation>
+    </message>
+    <message id="energy_history.nothing_in_range">
+        <source>Nothing recorded in this period</source>
+        <translation>Nessuna registrazione in questo periodo</translation>
+    </message>
+    <message id="energy_history.sessions">
+        <source>Recent sessions</source>
+        <translation>Sessioni recenti</translation>
+    </message>
+    <message id="energy_history.no_sessions">
+        <source>No sessions recorded yet.</source>
+        <translation>Nessuna sessione registrata finora.</translation>
+    </message>
+    <message id="energy_history.batteries">
+        <source>Battery health over time</source>
+        <translation>Salute della batteria nel tempo</translation>
+    </message>
+    <message id="energy_history.health">
+        <source>Health (%)</source>
+        <translation>Salute (%)</translation>
+    </message>
+    <message id="energy_history.capacity">
+        <source>Full-charge capacity (mAh)</source>
+        <translation>Capacità a carica completa (mAh)</translation>
+    </message>
+    <message id="session.on_battery">
+        <source>On battery</source>
+        <translation>A batteria</translation>
+    </message>
+    <message id="session.on_adapter">
+        <source>On the adapter</source>
+        <translation>Con l’alimentatore</translation>
+    </message>
+    <message id="session.on_battery_for">
+        <source>On battery for %1 · %2 used</source>
+        <translation>A batteria da %1 · %2 consumati</translation>
+    </message>
+    <message id="session.on_adapter_for">
+        <source>On the adapter for %1 · %2 delivered</source>
+        <translation>Con l’alimentatore da %1 · %2 forniti</translation>
+    </message>
+    <message id="session.mean_peak">
+        <source>Mean %1 · Peak %2</source>
+        <translation>Media %1 · Picco %2</translation>
+    </message>
+    <message id="session.two_units">
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="session.minutes" numerus="yes">
+        <source>%Ln min</source>
+        <translation>
+            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln min</numerusform>
+        </translation>
+    </message>
+    <message id="session.hours" numerus="yes">
+        <source>%Ln h</source>
+        <translation>
+            <numerusform>%Ln h</numerusform>
+            <numerusform>%Ln h</numerusform>
+        </translation>
+    </message>
+    <message id="session.days" numerus="yes">
+        <source>%Ln d</source>
+        <translation>
+            <numerusform>%Ln giorno</numerusform>
+            <numerusform>%Ln giorni</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -469,5 +469,119 @@
         <source>USB-C %1 V</source>
         <translation>USB-C %1 V</translation>
     </message>
+    <message id="section.energy_history">
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message id="energy_history.off">
+        <source>History is off.</source>
+        <translation>履歴はオフです。</translation>
+    </message>
+    <message id="energy_history.failing">
+        <source>History is not being kept: %1</source>
+        <translation>履歴は記録されていません：%1</translation>
+    </message>
+    <message id="energy_history.empty">
+        <source>No history yet: Ferrow records energy once a minute.</source>
+        <translation>履歴はまだありません。Ferrow は 1 分ごとにエネルギーを記録します。</translation>
+    </message>
+    <message id="energy_history.since">
+        <source>Ferrow has been keeping history since %1</source>
+        <translation>Ferrow は %1 から履歴を記録しています</translation>
+    </message>
+    <message id="energy_history.range">
+        <source>Range</source>
+        <translation>期間</translation>
+    </message>
+    <message id="energy_history.week">
+        <source>7 days</source>
+        <translation>7日間</translation>
+    </message>
+    <message id="energy_history.month">
+        <source>30 days</source>
+        <translation>30日間</translation>
+    </message>
+    <message id="energy_history.year">
+        <source>12 months</source>
+        <translation>12か月</translation>
+    </message>
+    <message id="energy_history.energy">
+        <source>Energy</source>
+        <translation>エネルギー</translation>
+    </message>
+    <message id="energy_history.adapter">
+        <source>From the adapter</source>
+        <translation>電源アダプタから</translation>
+    </message>
+    <message id="energy_history.battery">
+        <source>From the battery</source>
+        <translation>バッテリーから</translation>
+    </message>
+    <message id="energy_history.nothing_in_range">
+        <source>Nothing recorded in this period</source>
+        <translation>この期間の記録はありません</translation>
+    </message>
+    <message id="energy_history.sessions">
+        <source>Recent sessions</source>
+        <translation>最近のセッション</translation>
+    </message>
+    <message id="energy_history.no_sessions">
+        <source>No sessions recorded yet.</source>
+        <translation>記録されたセッションはまだありません。</translation>
+    </message>
+    <message id="energy_history.batteries">
+        <source>Battery health over time</source>
+        <translation>バッテリーの状態の推移</translation>
+    </message>
+    <message id="energy_history.health">
+        <source>Health (%)</source>
+        <translation>状態（%）</translation>
+    </message>
+    <message id="energy_history.capacity">
+        <source>Full-charge capacity (mAh)</source>
+        <translation>フル充電容量（mAh）</translation>
+    </message>
+    <message id="session.on_battery">
+        <source>On battery</source>
+        <translation>バッテリー駆動</translation>
+    </message>
+    <message id="session.on_adapter">
+        <source>On the adapter</source>
+        <translation>電源アダプタ接続</translation>
+    </message>
+    <message id="session.on_battery_for">
+        <source>On battery for %1 · %2 used</source>
+        <translation>バッテリー駆動 %1 · %2 使用</translation>
+    </message>
+    <message id="session.on_adapter_for">
+        <source>On the adapter for %1 · %2 delivered</source>
+        <translation>電源アダプタ接続 %1 · %2 供給</translation>
+    </message>
+    <message id="session.mean_peak">
+        <source>Mean %1 · Peak %2</source>
+        <translation>平均 %1 · ピーク %2</translation>
+    </message>
+    <message id="session.two_units">
+        <source>%1 %2</source>
+        <translation>%1%2</translation>
+    </message>
+    <message id="session.minutes" numerus="yes">
+        <source>%Ln min</source>
+        <translation>
+            <numerusform>%Ln分</numerusform>
+        </translation>
+    </message>
+    <message id="session.hours" numerus="yes">
+        <source>%Ln h</source>
+        <translation>
+            <numerusform>%Ln時間</numerusform>
+        </translation>
+    </message>
+    <message id="session.days" numerus="yes">
+        <source>%Ln d</source>
+        <translation>
+            <numerusform>%Ln日</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -469,5 +469,119 @@
         <source>USB-C %1 V</source>
         <translation>USB-C %1 V</translation>
     </message>
+    <message id="section.energy_history">
+        <source>History</source>
+        <translation>기록</translation>
+    </message>
+    <message id="energy_history.off">
+        <source>History is off.</source>
+        <translation>기록이 꺼져 있습니다.</translation>
+    </message>
+    <message id="energy_history.failing">
+        <source>History is not being kept: %1</source>
+        <translation>기록이 저장되지 않고 있습니다: %1</translation>
+    </message>
+    <message id="energy_history.empty">
+        <source>No history yet: Ferrow records energy once a minute.</source>
+        <translation>아직 기록이 없습니다. Ferrow는 1분마다 에너지를 기록합니다.</translation>
+    </message>
+    <message id="energy_history.since">
+        <source>Ferrow has been keeping history since %1</source>
+        <translation>Ferrow는 %1부터 기록을 저장하고 있습니다</translation>
+    </message>
+    <message id="energy_history.range">
+        <source>Range</source>
+        <translation>기간</translation>
+    </message>
+    <message id="energy_history.week">
+        <source>7 days</source>
+        <translation>7일</translation>
+    </message>
+    <message id="energy_history.month">
+        <source>30 days</source>
+        <translation>30일</translation>
+    </message>
+    <message id="energy_history.year">
+        <source>12 months</source>
+        <translation>12개월</translation>
+    </message>
+    <message id="energy_history.energy">
+        <source>Energy</source>
+        <translation>에너지</translation>
+    </message>
+    <message id="energy_history.adapter">
+        <source>From the adapter</source>
+        <translation>어댑터에서</translation>
+    </message>
+    <message id="energy_history.battery">
+        <source>From the battery</source>
+        <translation>배터리에서</translation>
+    </message>
+    <message id="energy_history.nothing_in_range">
+        <source>Nothing recorded in this period</source>
+        <translation>이 기간에 기록된 내용이 없습니다</translation>
+    </message>
+    <message id="energy_history.sessions">
+        <source>Recent sessions</source>
+        <translation>최근 세션</translation>
+    </message>
+    <message id="energy_history.no_sessions">
+        <source>No sessions recorded yet.</source>
+        <translation>기록된 세션이 아직 없습니다.</translation>
+    </message>
+    <message id="energy_history.batteries">
+        <source>Battery health over time</source>
+        <translation>시간에 따른 배터리 상태</translation>
+    </message>
+    <message id="energy_history.health">
+        <source>Health (%)</source>
+        <translation>상태(%)</translation>
+    </message>
+    <message id="energy_history.capacity">
+        <source>Full-charge capacity (mAh)</source>
+        <translation>완전 충전 용량(mAh)</translation>
+    </message>
+    <message id="session.on_battery">
+        <source>On battery</source>
+        <translation>배터리 사용</translation>
+    </message>
+    <message id="session.on_adapter">
+        <source>On the adapter</source>
+        <translation>어댑터 연결</translation>
+    </message>
+    <message id="session.on_battery_for">
+        <source>On battery for %1 · %2 used</source>
+        <translation>배터리 사용 %1 · %2 소모</translation>
+    </message>
+    <message id="session.on_adapter_for">
+        <source>On the adapter for %1 · %2 delivered</source>
+        <translation>어댑터 연결 %1 · %2 공급</translation>
+    </message>
+    <message id="session.mean_peak">
+        <source>Mean %1 · Peak %2</source>
+        <translation>평균 %1 · 최대 %2</translation>
+    </message>
+    <message id="session.two_units">
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="session.minutes" numerus="yes">
+        <source>%Ln min</source>
+        <translation>
+            <numerusform>%Ln분</numerusform>
+        </translation>
+    </message>
+    <message id="session.hours" numerus="yes">
+        <source>%Ln h</source>
+        <translation>
+            <numerusform>%Ln시간</numerusform>
+        </translation>
+    </message>
+    <message id="session.days" numerus="yes">
+        <source>%Ln d</source>
+        <translation>
+            <numerusform>%Ln일</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -10,10 +10,32 @@
 
 namespace ferrow {
 
+namespace {
+
+constexpr int kCardHeight = 76;
+// The session's line takes this much more; the figures move up to make most of the room, and the
+// dashboard gives up the rest from around the card, so the popover keeps its height.
+constexpr int kSessionLineHeight = 6;
+constexpr int kFiguresRaisedBy = 5;
+
+} // namespace
+
 BatteryStatusView::BatteryStatusView(QWidget *parent)
     : SnapshotView(parent)
 {
-    setFixedHeight(76);
+    fitHeight();
+}
+
+void BatteryStatusView::setSessionText(const QString &text)
+{
+    m_sessionText = text;
+    fitHeight();
+    update();
+}
+
+void BatteryStatusView::fitHeight()
+{
+    setFixedHeight(kCardHeight + (m_sessionText.isEmpty() ? 0 : kSessionLineHeight));
 }
 
 void paintBatterySegments(QPainter &painter, const QRectF &rect, std::int64_t level, const FerrowPalette &palette)
@@ -78,9 +100,10 @@ void BatteryStatusView::paintEvent(QPaintEvent *)
     drawFittedText(painter, QRectF(content.right() - 80, content.top(), 80, 14), QStringLiteral("%1%").arg(s.batteryPercent),
                    monospacedFont(11, QFont::Bold), 0.9, Qt::AlignRight);
 
-    paintBatterySegments(painter, QRectF(content.left(), content.top() + 20, content.width(), 6), s.batteryPercent, palette);
+    const bool session = !m_sessionText.isEmpty();
+    paintBatterySegments(painter, QRectF(content.left(), content.top() + (session ? 19 : 20), content.width(), 6), s.batteryPercent, palette);
 
-    const double metricTop = content.top() + 34;
+    const double metricTop = content.top() + 34 - (session ? kFiguresRaisedBy : 0);
     const double metricWidth = (content.width() - 16) / 3;
     const struct {
         const char *label;
@@ -94,6 +117,10 @@ void BatteryStatusView::paintEvent(QPaintEvent *)
     for (int i = 0; i < 3; ++i) {
         paintCompactMetric(painter, QRectF(content.left() + i * (metricWidth + 8), metricTop, metricWidth, 24),
                            localizedText(metrics[i].label), metrics[i].value, metrics[i].color, palette);
+    }
+    if (!m_sessionText.isEmpty()) {
+        painter.setPen(palette.secondaryText());
+        drawFittedText(painter, QRectF(content.left(), metricTop + 25, content.width(), 12), m_sessionText, uiFont(9), 0.85, Qt::AlignLeft);
     }
 }
 

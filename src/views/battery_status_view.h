@@ -13,10 +13,18 @@ namespace ferrow {
 class BatteryStatusView : public SnapshotView {
 public:
     explicit BatteryStatusView(QWidget *parent = nullptr);
-    QSize sizeHint() const override { return {414, 76}; }
+    QSize sizeHint() const override { return {414, height()}; }
+    // A line under the figures about the current session; empty takes it away.
+    void setSessionText(const QString &text);
+    const QString &sessionText() const { return m_sessionText; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    void fitHeight();
+
+    QString m_sessionText;
 };
 
 // The ten-segment charge gauge.

@@ -3,6 +3,7 @@
 #include "model/value_text.h"
 #include "views/battery_status_view.h"
 #include "views/divider.h"
+#include "views/history_model.h"
 #include "views/meter_row.h"
 #include "views/popover/details_button.h"
 #include "views/popover/meter_caption.h"
@@ -12,6 +13,7 @@
 #include "views/power_flow_view.h"
 #include "views/view_footer.h"
 
+#include <QLayout>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -64,7 +66,8 @@ DashboardView::DashboardView(QWidget *parent)
     column->addWidget(m_meterCaption);
     column->addWidget(m_flow);
     column->addWidget(m_flowDivider);
-    column->addWidget(padded(m_battery, 8, 8, 8, 8));
+    m_batteryBox = padded(m_battery, 8, 8, 8, 8);
+    column->addWidget(m_batteryBox);
     // The pieces fill the popover's height exactly; a point more anywhere squeezes whatever is tallest.
     column->addWidget(padded(m_telemetry, 8, 0, 8, 0));
     column->addWidget(padded(m_details, 8, 5, 8, 0));
@@ -85,6 +88,26 @@ void DashboardView::setSnapshot(const PowerSnapshot &s)
     m_flow->setSnapshot(s);
     m_battery->setSnapshot(s);
     m_telemetry->setSnapshot(s);
+    if (s.hasBattery != m_hasBattery) {
+        m_hasBattery = s.hasBattery;
+        showSession();
+    }
+}
+
+void DashboardView::setCurrentSession(std::optional<SessionRecord> session, UnixSeconds now)
+{
+    m_session = std::move(session);
+    m_sessionNow = now;
+    showSession();
+}
+
+void DashboardView::showSession()
+{
+    const bool shown = m_session && m_hasBattery;
+    m_battery->setSessionText(shown ? currentSessionText(*m_session, m_sessionNow) : QString());
+    // The card's extra height comes out of the room around it.
+    const int gap = shown ? 5 : 8;
+    m_batteryBox->layout()->setContentsMargins(8, gap, 8, gap);
 }
 
 void DashboardView::setFerrowPalette(const FerrowPalette &palette)

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "history/history_records.h"
 #include "model/power_snapshot.h"
 #include "views/ferrow_palette.h"
 
 #include <QWidget>
+
+#include <optional>
 
 namespace ferrow {
 
@@ -28,6 +31,8 @@ public:
     explicit DashboardView(QWidget *parent = nullptr);
 
     void setSnapshot(const PowerSnapshot &snapshot);
+    // The stretch on battery or on the adapter so far, under the battery card's figures.
+    void setCurrentSession(std::optional<SessionRecord> session, UnixSeconds now);
     void setFerrowPalette(const FerrowPalette &palette);
     void setSubtitle(const QString &subtitle);
     void setVersion(const QString &version);
@@ -50,13 +55,19 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void showSession();
+
     FerrowPalette m_palette;
     bool m_paintsBackground = true;
+    bool m_hasBattery = false;
+    std::optional<SessionRecord> m_session;
+    UnixSeconds m_sessionNow = 0;
     PopoverHeader *m_header;
     MeterRow *m_meters;
     MeterCaption *m_meterCaption;
     PowerFlowView *m_flow;
     Divider *m_flowDivider;
+    QWidget *m_batteryBox = nullptr;
     BatteryStatusView *m_battery;
     TelemetryCard *m_telemetry;
     DetailsButton *m_details;

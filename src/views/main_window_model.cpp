@@ -36,6 +36,8 @@ const char *sectionTitleKey(MainSection section)
         return "section.battery";
     case MainSection::cells:
         return "section.cells";
+    case MainSection::energy:
+        return "section.energy_history";
     case MainSection::history:
         return "section.device";
     }

@@ -5,14 +5,18 @@
 #include "views/dashboard_model.h"
 #include "views/glyphs.h"
 #include "views/meter_row.h"
+#include "views/history_model.h"
 #include "views/power_history_chart.h"
+#include "views/report/battery_health_panel.h"
 #include "views/report/battery_panel.h"
 #include "views/report/cells_panel.h"
 #include "views/report/chart_panel.h"
 #include "views/report/device_panel.h"
 #include "views/report/distribution_panel.h"
+#include "views/report/energy_chart_panel.h"
 #include "views/report/report_sidebar.h"
 #include "views/report/section_heading.h"
+#include "views/report/sessions_panel.h"
 #include "views/view_footer.h"
 #include "views/view_painting.h"
 
@@ -21,6 +25,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QKeySequence>
+#include <QLocale>
 #include <QLabel>
 #include <QPainter>
 #include <QScrollArea>
@@ -95,6 +100,7 @@ MainWindowView::MainWindowView(QWidget *parent)
     connect(&m_scrollAnimation, &QPropertyAnimation::finished, this, &MainWindowView::followScroll);
 
     setSelection(MainSection::overview, false);
+    showHistory();
     setVersion(absentText());
     setSnapshot(m_snapshot);
     setFerrowPalette(m_palette);
@@ -192,6 +198,14 @@ QWidget *MainWindowView::buildDetail()
     block(MainSection::battery, {named(m_battery, "batteryPanel")});
     m_cells = new CellsPanel;
     block(MainSection::cells, {named(m_cells, "cellsPanel")});
+    m_historyCaption = fontLabel(uiFont(12));
+    m_historyCaption->setObjectName(QStringLiteral("historyCaption"));
+    m_historyCaption->setWordWrap(true);
+    m_energy = new EnergyChartPanel;
+    m_sessions = new SessionsPanel;
+    m_batteryHealth = new BatteryHealthPanel;
+    block(MainSection::energy, {m_historyCaption, named(m_energy, "energyPanel"), named(m_sessions, "sessionsPanel"),
+                                named(m_batteryHealth, "batteryHealthPanel")});
     m_device = new DevicePanel;
     block(MainSection::history, {named(m_device, "devicePanel")});
 
@@ -235,6 +249,35 @@ void MainWindowView::setSnapshot(const PowerSnapshot &s)
 void MainWindowView::setHistory(const PowerHistory &history)
 {
     historyChart()->setHistory(history);
+}
+
+void MainWindowView::setHistoryOverview(const HistoryOverview &overview, const QDate &today)
+{
+    m_historyOverview = overview;
+    m_historyToday = today;
+    showHistory();
+}
+
+void MainWindowView::setHistoryEnabled(bool enabled)
+{
+    m_historyEnabled = enabled;
+    showHistory();
+}
+
+void MainWindowView::showHistory()
+{
+    m_historyCaption->setText(historyCaption(m_historyEnabled, m_historyOverview, QLocale()));
+    const bool kept = historyState(m_historyEnabled, m_historyOverview) == HistoryState::kept;
+    m_energy->setVisible(kept);
+    m_sessions->setVisible(kept);
+    if (kept) {
+        m_energy->setOverview(m_historyOverview, m_historyToday);
+        m_sessions->setSessions(m_historyOverview.recentSessions);
+    }
+    // A desktop keeps no battery days: no panel rather than an empty one.
+    const bool batteries = m_batteryHealth->setBatteryDays(kept ? m_historyOverview.batteryDays : std::vector<BatteryDayRecord>{});
+    m_batteryHealth->setVisible(kept && batteries);
+    updateEndSpacer();
 }
 
 PowerHistoryChart *MainWindowView::historyChart() const
@@ -281,12 +324,12 @@ void MainWindowView::applyPalette()
     m_scroll->viewport()->setAutoFillBackground(false);
     m_scroll->widget()->setAutoFillBackground(false);
 
-    for (QLabel *l : {m_overviewSubtitle, m_meterCaption, m_powerNotice, m_version, m_toolbarSubtitle})
+    for (QLabel *l : {m_overviewSubtitle, m_meterCaption, m_powerNotice, m_version, m_toolbarSubtitle, m_historyCaption})
         setTextColor(l, p.secondaryText());
     m_sidebar->setFerrowPalette(p);
     for (SectionHeading *heading : m_headings)
         heading->setFerrowPalette(p);
-    for (ReportPanel *panel : std::initializer_list<ReportPanel *>{m_distribution, m_chart, m_battery, m_cells, m_device})
+    for (ReportPanel *panel : std::initializer_list<ReportPanel *>{m_distribution, m_chart, m_battery, m_cells, m_energy, m_sessions, m_batteryHealth, m_device})
         panel->setFerrowPalette(p);
     m_footer->setFerrowPalette(p);
 }

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "history/history_recorder.h"
 #include "model/power_history.h"
 #include "model/power_snapshot.h"
 #include "views/ferrow_palette.h"
 #include "views/main_window_model.h"
 
+#include <QDate>
 #include <QMainWindow>
 #include <QPropertyAnimation>
 
@@ -18,18 +20,21 @@ class QSplitter;
 
 namespace ferrow {
 
+class BatteryHealthPanel;
 class BatteryPanel;
 class CellsPanel;
 class ChartPanel;
 class DevicePanel;
 class DistributionPanel;
+class EnergyChartPanel;
 class MeterRow;
 class PowerHistoryChart;
 class ReportSidebar;
 class SectionHeading;
+class SessionsPanel;
 class ViewFooter;
 
-// The details window: a sidebar of the report's five sections and a scrolling column that shows
+// The details window: a sidebar of the report's sections and a scrolling column that shows
 // them all. Picking a section scrolls to it; scrolling by hand moves the sidebar's selection.
 class MainWindowView : public QMainWindow {
     Q_OBJECT
@@ -42,6 +47,10 @@ public:
     void setVersion(const QString &version);
     // A note under the meters about what this machine keeps from us (empty hides it).
     void setPowerNotice(const QString &notice);
+    // The stored history; today is the last day its charts show.
+    void setHistoryOverview(const HistoryOverview &overview, const QDate &today = QDate::currentDate());
+    // Off, the History section says so and shows nothing stored.
+    void setHistoryEnabled(bool enabled);
     // Stills the sidebar's selection and the logo's hover.
     void setReduceMotion(bool reduceMotion);
 
@@ -67,6 +76,7 @@ private:
     void setSidebarShown(bool shown);
     void updateEndSpacer();
     void applyPalette();
+    void showHistory();
 
     FerrowPalette m_palette;
     PowerSnapshot m_snapshot = PowerSnapshot::empty();
@@ -92,6 +102,13 @@ private:
     ChartPanel *m_chart = nullptr;
     BatteryPanel *m_battery = nullptr;
     CellsPanel *m_cells = nullptr;
+    HistoryOverview m_historyOverview;
+    QDate m_historyToday = QDate::currentDate();
+    bool m_historyEnabled = true;
+    QLabel *m_historyCaption = nullptr;
+    EnergyChartPanel *m_energy = nullptr;
+    SessionsPanel *m_sessions = nullptr;
+    BatteryHealthPanel *m_batteryHealth = nullptr;
     DevicePanel *m_device = nullptr;
     ViewFooter *m_footer = nullptr;
     QLabel *m_version = nullptr;

@@ -1,13 +1,18 @@
 // Renders the application's views offscreen into PNG files, for the README and for looking at
 // every state without a Mac: the popover for a notebook on its adapter, on battery, and a desktop,
 // in both appearances, at 1x and 2x; and the main window for a notebook and a desktop after
-// half an hour of simulated readings, at its top and scrolled to each section.
+// half an hour of simulated readings, at its top and scrolled to each section; the notebook's with a
+// month of simulated history behind its History section.
 //
 // Usage: render_views [FOLDER [MAIN_WINDOW_WIDTH]]
 
 #include "app/app_services.h"
 #include "app/menu_bar_label.h"
 #include "app/text_table.h"
+#include "history/history_database.h"
+#include "history/history_recorder.h"
+#include "history/minute_folder.h"
+#include "history/session_tracker.h"
 #include "platform/recorded/recorded_machine.h"
 #include "model/power_history.h"
 #include "platform/native_machine.h"
@@ -18,11 +23,14 @@
 #include "views/main_window_view.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QImage>
 #include <QPainter>
 #include <QEventLoop>
+#include <QTemporaryDir>
 #include <QTextStream>
+#include <QToolButton>
 #include <QTimer>
 
 #include <vector>
@@ -63,6 +71,88 @@ SimulatedRun simulate(SimulatedPowerModel::Kind kind)
     return run;
 }
 
+struct SimulatedHistory {
+    HistoryOverview overview;
+    QDate today;
+};
+
+// A month of a notebook's days, one reading every five seconds while it is awake: mornings and
+// evenings on the adapter, a stretch or two on battery, nights asleep and a weekend away. Folded and
+// stored as the recorder does, then read back as its worker does for the History section.
+SimulatedHistory simulateHistory(QTextStream &err)
+{
+    constexpr int kDays = 30;
+    constexpr auto kStep = std::chrono::seconds(5);
+    QTemporaryDir folder;
+    HistoryDatabase database(folder.filePath(QStringLiteral("history.sqlite")), HistoryDatabase::Mode::readWrite);
+    auto *machine = new SimulatedMachine({SimulatedPowerModel::Kind::notebook, 11, false, 27});
+    SimulationClock &clock = machine->simulationClock();
+    PowerSensorReader reader{std::unique_ptr<MachinePlatform>(machine)};
+    MinuteFolder minutes;
+    SessionTracker sessions;
+    std::vector<MinuteRecord> pendingMinutes;
+    std::vector<SessionRecord> endedSessions;
+    std::vector<BatteryDayRecord> pendingDays;
+    QString lastDay;
+    const auto write = [&] {
+        std::vector<SessionRecord> written = std::move(endedSessions);
+        if (sessions.current() && sessions.current()->coveredS > 0)
+            written.push_back(*sessions.current());
+        database.write(pendingMinutes, written, pendingDays, minutes.lastTime());
+        pendingMinutes.clear();
+        endedSessions.clear();
+        pendingDays.clear();
+    };
+    const auto start = QDateTime::fromSecsSinceEpoch(std::chrono::duration_cast<std::chrono::seconds>(clock.now().time_since_epoch()).count());
+    for (int second = 0; second < kDays * 86'400; second += static_cast<int>(kStep.count())) {
+        clock.advance(kStep);
+        const QDateTime now = start.addSecs(second);
+        const int day = static_cast<int>(start.date().daysTo(now.date()));
+        const double hour = now.time().msecsSinceStartOfDay() / 3'600'000.0;
+        const bool weekend = now.date().dayOfWeek() >= 6;
+        if (hour < 8 || hour >= 23.5 || day == 11 || day == 12)
+            continue; // asleep, or away
+        const double shift = (day % 3) * 0.75;
+        const bool onBattery = weekend ? (hour >= 13 && hour < 16.5)
+                                       : ((hour >= 9.5 + shift && hour < 12 + shift) || (hour >= 15 && hour < 17.5 + shift / 2));
+        machine->model().setExternalPowerOverride(!onBattery);
+        const PowerSnapshot reading = reader.read();
+        std::optional<MinuteRecord> finished = minutes.add(reading, clock.uptimeSeconds());
+        if (std::optional<SessionRecord> ended = sessions.add(reading, minutes.lastStepS(), minutes.lastTime()))
+            endedSessions.push_back(std::move(*ended));
+        const QString today = QDateTime::fromSecsSinceEpoch(minutes.lastTime()).date().toString(Qt::ISODate);
+        if (today != lastDay && sessions.current() && sessions.current()->batteryId) {
+            lastDay = today;
+            pendingDays.push_back({*sessions.current()->batteryId, today, reading.batteryHealthPercent, reading.fullChargeCapacityMAH,
+                                   reading.designCapacityMAH, reading.cycleCount});
+        }
+        if (finished) {
+            pendingMinutes.push_back(std::move(*finished));
+            if (pendingMinutes.size() >= 60)
+                write();
+        }
+    }
+    if (std::optional<MinuteRecord> last = minutes.flush())
+        pendingMinutes.push_back(std::move(*last));
+    write();
+
+    SimulatedHistory history;
+    const UnixSeconds now = minutes.lastTime();
+    history.today = QDateTime::fromSecsSinceEpoch(now).date();
+    HistoryOverview &overview = history.overview;
+    overview.error = database.error();
+    if (!database.isOpen()) {
+        err << "render_views: the simulated history: " << database.error() << Qt::endl;
+        return history;
+    }
+    overview.since = database.firstRecord();
+    overview.last30Days = database.energy(now - 31 * 86'400, now + 86'400, HistoryPeriod::day);
+    overview.last12Months = database.energy(now - 366 * 86'400, now + 86'400, HistoryPeriod::month);
+    overview.recentSessions = database.sessions(now - 31 * 86'400, now + 86'400, 12);
+    overview.batteryDays = database.batteryDays();
+    return history;
+}
+
 void waitFor(int milliseconds)
 {
     QEventLoop loop;
@@ -71,9 +161,12 @@ void waitFor(int milliseconds)
 }
 
 // The window at each section, written as main-NAME-SCHEME-SECTION.png; the number written, or -1.
-int renderMainWindow(const QString &output, const QString &name, const SimulatedRun &run, ColorScheme scheme, int width, QTextStream &err)
+int renderMainWindow(const QString &output, const QString &name, const SimulatedRun &run, ColorScheme scheme, int width, QTextStream &err,
+                     const SimulatedHistory *history = nullptr)
 {
     MainWindowView window;
+    if (history)
+        window.setHistoryOverview(history->overview, history->today);
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.setFerrowPalette(FerrowPalette{scheme});
     window.setSnapshot(run.snapshot);
@@ -96,16 +189,34 @@ int renderMainWindow(const QString &output, const QString &name, const Simulated
         }
         ++written;
     }
+    if (history) {
+        // The whole History section at once, for the README, over thirty days to show the gaps.
+        for (QToolButton *choice : window.findChild<QWidget *>(QStringLiteral("energyPanel"))->findChildren<QToolButton *>())
+            if (choice->text() == localizedText("energy_history.month"))
+                choice->click();
+        window.resize(window.width(), window.sectionBlock(MainSection::energy)->sizeHint().height() + 170);
+        waitFor(50);
+        window.pickSection(MainSection::energy);
+        waitFor(420);
+        const QString path = QStringLiteral("%1/main-%2-%3-energy.png").arg(output, name, scheme == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light"));
+        if (!render(window, 1.0, path)) {
+            err << "render_views: cannot write " << path << Qt::endl;
+            return -1;
+        }
+        ++written;
+    }
     return written;
 }
 
 int renderMainWindows(const QString &output, int width, QTextStream &err)
 {
     int written = 0;
+    const SimulatedHistory history = simulateHistory(err);
     for (const auto &[name, kind] : {std::pair{"notebook", SimulatedPowerModel::Kind::notebook}, std::pair{"desktop", SimulatedPowerModel::Kind::desktop}}) {
         const SimulatedRun run = simulate(kind);
         for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-            const int images = renderMainWindow(output, QLatin1String(name), run, scheme, width, err);
+            const int images = renderMainWindow(output, QLatin1String(name), run, scheme, width, err,
+                                                kind == SimulatedPowerModel::Kind::notebook ? &history : nullptr);
             if (images < 0)
                 return -1;
             written += images;
@@ -170,10 +281,16 @@ int main(int argc, char *argv[])
     const int mainWindowWidth = argc > 2 ? QString::fromLocal8Bit(argv[2]).toInt() : 0; // 0: the window's own width
     QDir().mkpath(output);
 
+    // Each notebook state with a session such as it would be in.
     const struct {
         const char *name;
         const char *recording;
-    } states[] = {{"adapter", "notebook-charging-26"}, {"battery", "notebook-battery-27"}, {"desktop", "desktop-26"}};
+        bool externalPower;
+        UnixSeconds lengthS;
+        double energyWh;
+    } states[] = {{"adapter", "notebook-charging-26", true, 35 * 60, 12.0},
+                  {"battery", "notebook-battery-27", false, 72 * 60, 8.4},
+                  {"desktop", "desktop-26", true, 0, 0}};
     int written = 0;
     std::vector<PowerSnapshot> snapshots;
     for (const auto &state : states) {
@@ -188,6 +305,14 @@ int main(int argc, char *argv[])
             DashboardView dashboard;
             dashboard.setFerrowPalette(FerrowPalette{scheme});
             dashboard.setSnapshot(*snapshot);
+            const UnixSeconds readAt = std::chrono::duration_cast<std::chrono::seconds>(snapshot->updatedAt.time_since_epoch()).count();
+            SessionRecord session;
+            session.start = readAt - state.lengthS;
+            session.end = readAt;
+            session.externalPower = state.externalPower;
+            session.energyWh = state.energyWh;
+            session.coveredS = static_cast<double>(state.lengthS);
+            dashboard.setCurrentSession(session, readAt); // a desktop has none to show
             dashboard.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
             dashboard.setShowPowerInMenuBar(true);
             dashboard.setReduceMotion(true); // a still frame: the dots at their resting phases

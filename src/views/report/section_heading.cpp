@@ -18,6 +18,8 @@ Glyph sectionGlyph(MainSection section)
         return Glyph::battery;
     case MainSection::cells:
         return Glyph::grid;
+    case MainSection::energy:
+        return Glyph::chart;
     case MainSection::history:
         return Glyph::info;
     }
