@@ -587,5 +587,21 @@
             <numerusform>%Ln Tage</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>Energieverlauf speichern</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>Energieverlauf ausschalten?</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow löscht den auf diesem Computer gespeicherten Energieverlauf. Das lässt sich nicht rückgängig machen.</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>Verlauf löschen</translation>
+    </message>
 </context>
 </TS>

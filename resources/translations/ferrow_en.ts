@@ -587,5 +587,21 @@
             <numerusform>%Ln days</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>Keep energy history</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>Turn off energy history?</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>Delete history</translation>
+    </message>
 </context>
 </TS>

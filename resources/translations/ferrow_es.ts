@@ -587,5 +587,21 @@
             <numerusform>%Ln días</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>Guardar el historial de energía</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>¿Desactivar el historial de energía?</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow eliminará el historial de energía guardado en este ordenador. No se puede deshacer.</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>Eliminar historial</translation>
+    </message>
 </context>
 </TS>

@@ -587,5 +587,21 @@
             <numerusform>%Ln jours</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>Conserver l’historique d’énergie</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>Désactiver l’historique d’énergie ?</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow supprimera l’historique d’énergie conservé sur cet ordinateur. Cette action est irréversible.</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>Supprimer l’historique</translation>
+    </message>
 </context>
 </TS>

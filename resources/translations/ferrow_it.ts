@@ -587,5 +587,21 @@
             <numerusform>%Ln giorni</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>Conserva la cronologia dell’energia</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>Disattivare la cronologia dell’energia?</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow eliminerà la cronologia dell’energia conservata su questo computer. L’operazione non può essere annullata.</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>Elimina cronologia</translation>
+    </message>
 </context>
 </TS>

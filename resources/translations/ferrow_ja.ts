@@ -583,5 +583,21 @@
             <numerusform>%Ln日</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>エネルギー履歴を保存</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>エネルギー履歴をオフにしますか？</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow はこのコンピュータに保存したエネルギー履歴を削除します。この操作は取り消せません。</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>履歴を削除</translation>
+    </message>
 </context>
 </TS>

@@ -583,5 +583,21 @@
             <numerusform>%Ln일</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>에너지 기록 보관</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>에너지 기록을 끄시겠습니까?</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow가 이 컴퓨터에 보관한 에너지 기록을 삭제합니다. 되돌릴 수 없습니다.</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>기록 삭제</translation>
+    </message>
 </context>
 </TS>

@@ -587,5 +587,21 @@
             <numerusform>%Ln dagen</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>Energiegeschiedenis bewaren</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>Energiegeschiedenis uitschakelen?</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow verwijdert de energiegeschiedenis die op deze computer is bewaard. Dit kan niet ongedaan worden gemaakt.</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>Geschiedenis verwijderen</translation>
+    </message>
 </context>
 </TS>

@@ -591,5 +591,21 @@
             <numerusform>%Ln dni</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>Zachowuj historię energii</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>Wyłączyć historię energii?</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow usunie historię energii przechowywaną na tym komputerze. Tej operacji nie można cofnąć.</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>Usuń historię</translation>
+    </message>
 </context>
 </TS>

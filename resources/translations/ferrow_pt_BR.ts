@@ -587,5 +587,21 @@
             <numerusform>%Ln dias</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>Manter histórico de energia</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>Desativar o histórico de energia?</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>O Ferrow apagará o histórico de energia mantido neste computador. Isso não pode ser desfeito.</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>Apagar histórico</translation>
+    </message>
 </context>
 </TS>

@@ -591,5 +591,21 @@
             <numerusform>%Ln дней</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>Хранить историю энергии</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>Отключить историю энергии?</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow удалит историю энергии, сохранённую на этом компьютере. Это действие нельзя отменить.</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>Удалить историю</translation>
+    </message>
 </context>
 </TS>

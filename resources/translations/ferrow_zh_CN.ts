@@ -583,5 +583,21 @@
             <numerusform>%Ln 天</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>保留能耗历史</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>关闭能耗历史？</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow 将删除在此电脑上保留的能耗历史。此操作无法撤销。</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>删除历史</translation>
+    </message>
 </context>
 </TS>

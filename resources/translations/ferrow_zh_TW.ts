@@ -583,5 +583,21 @@
             <numerusform>%Ln 天</numerusform>
         </translation>
     </message>
+    <message id="history.keep">
+        <source>Keep energy history</source>
+        <translation>保留能耗歷史</translation>
+    </message>
+    <message id="history.turn_off_title">
+        <source>Turn off energy history?</source>
+        <translation>關閉能耗歷史？</translation>
+    </message>
+    <message id="history.turn_off_text">
+        <source>Ferrow will delete the energy history it has kept on this computer. This cannot be undone.</source>
+        <translation>Ferrow 將刪除在此電腦上保留的能耗歷史。此操作無法復原。</translation>
+    </message>
+    <message id="history.turn_off_confirm">
+        <source>Delete history</source>
+        <translation>刪除歷史</translation>
+    </message>
 </context>
 </TS>

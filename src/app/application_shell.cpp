@@ -16,7 +16,10 @@
 #include <QCursor>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QDateTime>
 #include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QStyleHints>
 #include <QVBoxLayout>
@@ -93,7 +96,7 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
         showLoginItemState(); // refused, or waiting for the user: the system's state, not the click
     });
     connect(m_dashboard, &DashboardView::launchAtLoginNoteClicked, this, [this] { m_loginItem->openSettingsForState(); });
-    m_history = std::make_unique<HistoryRecorder>(preferences.keepHistory ? HistoryRecorder::defaultDatabasePath() : QString());
+    startHistory(preferences.keepHistory);
     connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, [this] { m_history->record(m_monitor->snapshot()); });
     connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, &ApplicationShell::showSnapshot);
     if (m_sleepWake)
@@ -117,6 +120,51 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
 }
 
 ApplicationShell::~ApplicationShell() = default;
+
+void ApplicationShell::startHistory(bool keep)
+{
+    m_history = std::make_unique<HistoryRecorder>(keep ? HistoryRecorder::defaultDatabasePath() : QString());
+    connect(m_history.get(), &HistoryRecorder::overviewReady, this, [this](const HistoryOverview &overview) {
+        if (m_mainWindow)
+            m_mainWindow->setHistoryOverview(overview);
+    });
+    connect(m_history.get(), &HistoryRecorder::errorChanged, this, &ApplicationShell::requestHistoryOverview);
+}
+
+void ApplicationShell::requestHistoryOverview()
+{
+    if (!m_mainWindow || !m_history->keepsHistory())
+        return;
+    m_sinceHistoryOverview.start();
+    m_history->requestOverview(QDateTime::currentSecsSinceEpoch());
+}
+
+void ApplicationShell::setKeepHistory(bool keep)
+{
+    if (keep == m_history->keepsHistory())
+        return;
+    if (!keep) {
+        QMessageBox question(QMessageBox::Warning, localizedText("history.turn_off_title"), localizedText("history.turn_off_text"),
+                             QMessageBox::Cancel, m_mainWindow.get());
+        QPushButton *remove = question.addButton(localizedText("history.turn_off_confirm"), QMessageBox::DestructiveRole);
+        question.setDefaultButton(QMessageBox::Cancel);
+        question.exec();
+        if (question.clickedButton() != remove) {
+            m_mainWindow->setHistoryEnabled(true);
+            return;
+        }
+        m_history->deleteHistory();
+    }
+    Preferences changed = readPreferences(m_settings);
+    changed.keepHistory = keep;
+    writePreferences(m_settings, changed);
+    startHistory(keep);
+    if (m_mainWindow) {
+        m_mainWindow->setHistoryEnabled(keep);
+        m_mainWindow->setHistoryOverview(HistoryOverview{});
+    }
+    requestHistoryOverview();
+}
 
 void ApplicationShell::persist()
 {
@@ -160,7 +208,10 @@ MainWindowView *ApplicationShell::openMainWindow()
         m_mainWindow->setHistory(m_monitor->powerHistory());
         m_mainWindow->installEventFilter(this);
         connect(m_mainWindow.get(), &MainWindowView::refreshRequested, m_monitor.get(), &PowerMonitor::refresh);
+        m_mainWindow->setHistoryEnabled(m_history->keepsHistory());
+        connect(m_mainWindow.get(), &MainWindowView::historyEnabledToggled, this, &ApplicationShell::setKeepHistory);
     }
+    requestHistoryOverview();
     if (m_menuBarItem)
         m_window->hide();
     m_mainWindow->show();
@@ -199,8 +250,14 @@ void ApplicationShell::applyAppearance()
 void ApplicationShell::showSnapshot()
 {
     m_dashboard->setSnapshot(m_monitor->snapshot());
-    if (m_mainWindow)
+    m_dashboard->setCurrentSession(m_history->currentSession(), QDateTime::currentSecsSinceEpoch());
+    if (m_mainWindow) {
         m_mainWindow->setSnapshot(m_monitor->snapshot());
+        // The stored history moves once a minute; so does what the open window shows of it.
+        constexpr qint64 kOverviewIntervalMs = 60'000;
+        if (m_mainWindow->isVisible() && (!m_sinceHistoryOverview.isValid() || m_sinceHistoryOverview.elapsed() >= kOverviewIntervalMs))
+            requestHistoryOverview();
+    }
     updateTrayItem();
 }
 

@@ -44,6 +44,9 @@ protected:
 
 private:
     void showSnapshot();
+    void startHistory(bool keep);
+    void setKeepHistory(bool keep);
+    void requestHistoryOverview();
     // Commits the history's minute and the lifetime extremes: before sleep and quit.
     void persist();
     void updateTrayItem();
@@ -67,6 +70,7 @@ private:
     // Since the popover last closed because it lost focus: a click on the item is what took
     // the focus, and that click must not open it again.
     QElapsedTimer m_sinceClosedByFocusLoss;
+    QElapsedTimer m_sinceHistoryOverview;
     bool m_hasPopoverMaterial = false; // the platform's translucent material behind the popover
 
 };

@@ -21,6 +21,7 @@
 #include "views/view_painting.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QEasingCurve>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -201,10 +202,14 @@ QWidget *MainWindowView::buildDetail()
     m_historyCaption = fontLabel(uiFont(12));
     m_historyCaption->setObjectName(QStringLiteral("historyCaption"));
     m_historyCaption->setWordWrap(true);
+    m_keepHistory = new QCheckBox(localizedText("history.keep"));
+    m_keepHistory->setObjectName(QStringLiteral("keepHistory"));
+    m_keepHistory->setChecked(m_historyEnabled);
+    connect(m_keepHistory, &QCheckBox::clicked, this, &MainWindowView::historyEnabledToggled);
     m_energy = new EnergyChartPanel;
     m_sessions = new SessionsPanel;
     m_batteryHealth = new BatteryHealthPanel;
-    block(MainSection::energy, {m_historyCaption, named(m_energy, "energyPanel"), named(m_sessions, "sessionsPanel"),
+    block(MainSection::energy, {m_keepHistory, m_historyCaption, named(m_energy, "energyPanel"), named(m_sessions, "sessionsPanel"),
                                 named(m_batteryHealth, "batteryHealthPanel")});
     m_device = new DevicePanel;
     block(MainSection::history, {named(m_device, "devicePanel")});
@@ -261,6 +266,7 @@ void MainWindowView::setHistoryOverview(const HistoryOverview &overview, const Q
 void MainWindowView::setHistoryEnabled(bool enabled)
 {
     m_historyEnabled = enabled;
+    m_keepHistory->setChecked(enabled);
     showHistory();
 }
 

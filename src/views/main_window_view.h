@@ -14,6 +14,7 @@
 #include <vector>
 
 class QAction;
+class QCheckBox;
 class QLabel;
 class QScrollArea;
 class QSplitter;
@@ -64,6 +65,8 @@ public:
 
 signals:
     void refreshRequested();
+    // The user turned the history on or off; the shell confirms turning it off and answers with setHistoryEnabled.
+    void historyEnabledToggled(bool enabled);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -106,6 +109,7 @@ private:
     QDate m_historyToday = QDate::currentDate();
     bool m_historyEnabled = true;
     QLabel *m_historyCaption = nullptr;
+    QCheckBox *m_keepHistory = nullptr;
     EnergyChartPanel *m_energy = nullptr;
     SessionsPanel *m_sessions = nullptr;
     BatteryHealthPanel *m_batteryHealth = nullptr;
