@@ -102,6 +102,7 @@ HistoryRecorder::~HistoryRecorder()
 {
     if (!m_worker)
         return;
+    waitForWrites(); // quitting the thread's loop would drop writes still queued
     m_thread.quit();
     m_thread.wait();
 }
