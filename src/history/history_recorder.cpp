@@ -118,8 +118,8 @@ void HistoryRecorder::record(const PowerSnapshot &reading)
     std::optional<SessionRecord> ended = m_sessions.add(reading, m_minutes.lastStepS(), m_minutes.lastTime());
     if (reading.hasBattery) {
         if (const std::optional<QString> id = m_sessions.current() ? m_sessions.current()->batteryId : std::nullopt) {
-            const QString day = QDateTime::fromSecsSinceEpoch(m_minutes.lastTime()).date().toString(Qt::ISODate);
-            m_latestBatteryDay = BatteryDayRecord{*id, day, reading.batteryHealthPercent, reading.fullChargeCapacityMAH,
+            // The day is worked out when a minute is written, not every second.
+            m_latestBatteryDay = BatteryDayRecord{*id, QString(), reading.batteryHealthPercent, reading.fullChargeCapacityMAH,
                                                   reading.designCapacityMAH, reading.cycleCount};
         }
     }
@@ -144,9 +144,12 @@ void HistoryRecorder::write(std::vector<MinuteRecord> minutes, std::optional<Ses
     if (m_sessions.current() && m_sessions.current()->coveredS > 0)
         sessions.push_back(*m_sessions.current());
     std::vector<BatteryDayRecord> days;
-    if (m_latestBatteryDay && !m_batteryDaysWritten.contains(m_latestBatteryDay->batteryId + m_latestBatteryDay->day)) {
-        m_batteryDaysWritten.insert(m_latestBatteryDay->batteryId + m_latestBatteryDay->day);
-        days.push_back(*m_latestBatteryDay);
+    if (m_latestBatteryDay) {
+        m_latestBatteryDay->day = QDateTime::fromSecsSinceEpoch(m_minutes.lastTime()).date().toString(Qt::ISODate);
+        if (!m_batteryDaysWritten.contains(m_latestBatteryDay->batteryId + m_latestBatteryDay->day)) {
+            m_batteryDaysWritten.insert(m_latestBatteryDay->batteryId + m_latestBatteryDay->day);
+            days.push_back(*m_latestBatteryDay);
+        }
     }
     if (minutes.empty() && sessions.empty() && days.empty())
         return;
