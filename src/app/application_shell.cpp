@@ -18,6 +18,7 @@
 #include <QKeyEvent>
 #include <QDateTime>
 #include <QLabel>
+#include <QLoggingCategory>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -26,6 +27,10 @@
 
 namespace ferrow {
 namespace {
+
+// Off unless asked for (QT_LOGGING_RULES="ferrow.startup.info=true"): the footprint script times
+// the start with it.
+Q_LOGGING_CATEGORY(startupLog, "ferrow.startup", QtWarningMsg)
 
 ColorScheme systemColorScheme()
 {
@@ -267,7 +272,13 @@ void ApplicationShell::updateTrayItem()
         return;
     const PowerSnapshot &snapshot = m_monitor->snapshot();
     const QString figure = menuBarFigureText(snapshot) + QStringLiteral(" \u00B7 ") + snapshot.statusText();
-    m_menuBarItem->showReading(menuBarReading(snapshot, readPreferences(m_settings).showPowerInMenuBar, localizedFormatText(m_readsSimulation ? "tray.tooltip_simulated" : "tray.tooltip", {figure})));
+    const MenuBarReading reading =
+        menuBarReading(snapshot, readPreferences(m_settings).showPowerInMenuBar, localizedFormatText(m_readsSimulation ? "tray.tooltip_simulated" : "tray.tooltip", {figure}));
+    m_menuBarItem->showReading(reading);
+    if (!m_hasShownReading && m_monitor->hasReading()) {
+        m_hasShownReading = true;
+        qCInfo(startupLog, "first figure in the menu bar: %s", qUtf8Printable(reading.figureText));
+    }
 }
 
 void ApplicationShell::togglePopover()

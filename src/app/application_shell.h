@@ -71,6 +71,7 @@ private:
     // the focus, and that click must not open it again.
     QElapsedTimer m_sinceClosedByFocusLoss;
     QElapsedTimer m_sinceHistoryOverview;
+    bool m_hasShownReading = false;
     bool m_hasPopoverMaterial = false; // the platform's translucent material behind the popover
 
 };

@@ -14,16 +14,24 @@ PowerMonitor::PowerMonitor(std::unique_ptr<SnapshotReader> reader, SleepWakeNoti
     , m_sleepWake(sleepWake)
     , m_interval(interval)
     , m_snapshot(PowerSnapshot::empty())
+    , m_readingContext(std::make_unique<QObject>())
 {
-    m_worker.setMaxThreadCount(1);
-    m_worker.setThreadPriority(QThread::LowPriority);
+    m_readingThread.setObjectName(QStringLiteral("ferrow-reader"));
+    m_readingContext->moveToThread(&m_readingThread);
+    m_readingThread.start(QThread::LowPriority);
 }
 
 PowerMonitor::~PowerMonitor()
 {
-    // A reading in flight uses the reader and posts back to this object: let it finish first.
-    // Its queued result is then discarded along with this object.
-    m_worker.waitForDone();
+    // Work already queued (a reading in flight, a last persist) runs first; the thread stops after
+    // it. A queued result is then discarded along with this object.
+    onReadingThread([thread = &m_readingThread] { thread->quit(); });
+    m_readingThread.wait();
+}
+
+template <typename Work> void PowerMonitor::onReadingThread(Work work)
+{
+    QMetaObject::invokeMethod(m_readingContext.get(), std::move(work), Qt::QueuedConnection);
 }
 
 void PowerMonitor::start()
@@ -51,7 +59,7 @@ void PowerMonitor::refresh()
     if (m_isRefreshing)
         return;
     m_isRefreshing = true;
-    m_worker.start([this] {
+    onReadingThread([this] {
         PowerSnapshot result = m_reader->read();
         QMetaObject::invokeMethod(
             this, [this, result = std::move(result)]() mutable { apply(std::move(result)); },
@@ -61,7 +69,7 @@ void PowerMonitor::refresh()
 
 void PowerMonitor::persist()
 {
-    m_worker.start([this] { m_reader->persist(); });
+    onReadingThread([this] { m_reader->persist(); });
 }
 
 void PowerMonitor::stopTimer()
@@ -79,6 +87,7 @@ void PowerMonitor::apply(PowerSnapshot result)
 {
     emit objectWillChange();
     m_snapshot = std::move(result);
+    m_hasReading = true;
     emit snapshotChanged();
 
     emit objectWillChange();

@@ -8,7 +8,7 @@
 #include <QMetaObject>
 #include <QObject>
 #include <QPointer>
-#include <QThreadPool>
+#include <QThread>
 
 #include <chrono>
 #include <memory>
@@ -19,9 +19,9 @@ namespace ferrow {
 
 class SleepWakeNotifier;
 
-// The one live object between the reader and the views. Once a second it runs one reading on a
-// low-priority worker and publishes the result on the main thread, then folds it into the history.
-// All members are touched on the main thread only; isRefreshing is the only exclusion.
+// The one live object between the reader and the views. Once a second it runs one reading on its
+// low-priority reading thread and publishes the result on the main thread, then folds it into the
+// history. All members are touched on the main thread only; isRefreshing is the only exclusion.
 class PowerMonitor : public QObject {
     Q_OBJECT
 public:
@@ -35,6 +35,7 @@ public:
     const PowerHistory &powerHistory() const { return m_powerHistory; }
     bool isRunning() const { return m_timer != nullptr; }
     bool isRefreshing() const { return m_isRefreshing; }
+    bool hasReading() const { return m_hasReading; }
     qsizetype observerCount() const { return m_observers.size(); }
 
 public slots:
@@ -54,6 +55,7 @@ signals:
 
 private:
     void apply(PowerSnapshot result);
+    template <typename Work> void onReadingThread(Work work);
 
     std::unique_ptr<SnapshotReader> m_reader;
     QPointer<SleepWakeNotifier> m_sleepWake;
@@ -63,7 +65,10 @@ private:
     std::unique_ptr<QTimer> m_timer;
     QList<QMetaObject::Connection> m_observers;
     bool m_isRefreshing = false;
-    QThreadPool m_worker;
+    bool m_hasReading = false;
+    // One long-lived thread that sleeps in its event loop between readings: one wake-up a reading.
+    QThread m_readingThread;
+    std::unique_ptr<QObject> m_readingContext;
 };
 
 } // namespace ferrow

@@ -59,9 +59,10 @@ PowerFlowView::PowerFlowView(QWidget *parent)
     setFixedHeight(24 + kRowHeight + 16);
     // The static layer carries the panel's ground, so nothing under this view needs repainting.
     setAttribute(Qt::WA_OpaquePaintEvent);
-    // 20 frames a second: dots crossing the connector in 1.55 s move about 4 points a frame, which
-    // reads as smooth at their size; each frame's wake-up, not its painting, is most of the cost.
-    m_frameTimer.setInterval(50);
+    // 15 frames a second: dots crossing the connector in 1.55 s move about 5 points a frame, less
+    // than half their halo, which still reads as smooth motion. Each frame costs a wake-up and a
+    // flush to the window system far more than its painting, so the rate is the cost.
+    m_frameTimer.setInterval(66);
     m_frameTimer.setTimerType(Qt::CoarseTimer);
     connect(&m_frameTimer, &QTimer::timeout, this, &PowerFlowView::animationTick);
 }
@@ -92,12 +93,12 @@ double PowerFlowView::currentPhase() const
 
 void PowerFlowView::animationTick()
 {
-    m_phase = currentPhase();
-    const QRectF connector = connectorRect();
     const QRect previous = m_dotBounds;
+    placeDots(currentPhase());
+    const QPointF origin = connectorRect().topLeft();
     m_dotBounds = QRect();
-    for (const FlowDot &dot : flowDots(flowInputs(snapshot()), connector.size(), m_phase))
-        m_dotBounds |= QRectF(connector.topLeft() + dot.position - QPointF(7, 7), QSizeF(14, 14)).toAlignedRect();
+    for (const FlowDot &dot : m_dots)
+        m_dotBounds |= QRectF(origin + dot.position - QPointF(7, 7), QSizeF(14, 14)).toAlignedRect();
     // One rectangle, not the union of the dots' squares: a clip of many pieces sends the raster
     // engine's fills through its thread pool, and the hand-offs cost more than the pixels saved.
     // Painted now rather than posted: one pass of the event loop per frame instead of two.
@@ -131,31 +132,47 @@ void PowerFlowView::paintConnectorRoutes(QPainter &painter, const QRectF &rect, 
     painter.restore();
 }
 
-void PowerFlowView::paintConnectorDots(QPainter &painter, const QRectF &rect, const PowerSnapshot &snapshot, double phase)
+const QPixmap &PowerFlowView::dotSprite(QRgb color, qreal scale)
 {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(rect.topLeft());
-    const double scale = paintingScale(painter);
-    for (const FlowDot &dot : flowDots(flowInputs(snapshot), rect.size(), phase)) {
-        // One sprite per colour, in steps too fine to see: a blit per dot instead of three
-        // antialiased ellipses every frame.
-        const QColor color = QColor::fromRgb(dot.color.rgb() & 0xFFFCFCFC);
-        const QPixmap sprite = cachedDrawing(QStringLiteral("flow-dot|%1").arg(color.rgb()), QSizeF(14, 14), scale, [&](QPainter &p) {
-            const QPointF centre(7, 7);
-            p.setPen(Qt::NoPen);
-            QColor halo = color;
-            halo.setAlphaF(0.28f);
-            p.setBrush(halo);
-            p.drawEllipse(centre, 5.5, 5.5);
-            p.setBrush(color);
-            p.drawEllipse(centre, 3, 3);
-            p.setBrush(QColor(255, 255, 255, 224));
-            p.drawEllipse(centre, 1, 1);
-        });
-        painter.drawPixmap(dot.position - QPointF(7, 7), sprite);
+    color &= 0xFFF8F8F8;
+    if (scale != m_dotSpriteScale || m_dotSprites.size() > 256) {
+        m_dotSprites.clear();
+        m_dotSpriteScale = scale;
     }
-    painter.restore();
+    if (const auto found = m_dotSprites.constFind(color); found != m_dotSprites.cend())
+        return *found;
+    QPixmap pixmap(QSize(14, 14) * scale);
+    pixmap.setDevicePixelRatio(scale);
+    pixmap.fill(Qt::transparent);
+    QPainter p(&pixmap);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    const QPointF centre(7, 7);
+    QColor halo = QColor::fromRgb(color);
+    halo.setAlphaF(0.28f);
+    p.setBrush(halo);
+    p.drawEllipse(centre, 5.5, 5.5);
+    p.setBrush(QColor::fromRgb(color));
+    p.drawEllipse(centre, 3, 3);
+    p.setBrush(QColor(255, 255, 255, 224));
+    p.drawEllipse(centre, 1, 1);
+    p.end();
+    return *m_dotSprites.insert(color, pixmap);
+}
+
+void PowerFlowView::placeDots(double phase)
+{
+    m_phase = phase;
+    m_dots = flowDots(flowInputs(snapshot()), connectorRect().size(), phase);
+    m_dotsRevision = snapshotRevision();
+}
+
+void PowerFlowView::paintDots(QPainter &painter)
+{
+    const QPointF origin = connectorRect().topLeft() - QPointF(7, 7);
+    const qreal scale = paintingScale(painter);
+    for (const FlowDot &dot : m_dots)
+        painter.drawPixmap(origin + dot.position, dotSprite(dot.color.rgb(), scale));
 }
 
 QRectF PowerFlowView::connectorRect() const
@@ -206,7 +223,7 @@ void PowerFlowView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const qreal scale = paintingScale(painter);
-    const StaticLayerKey key{snapshot(), ferrowPalette().scheme, size(), scale};
+    const StaticLayerKey key{snapshotRevision(), ferrowPalette().scheme, size(), scale};
     if (key != m_staticLayerKey) {
         m_staticLayer = QPixmap(size() * scale);
         m_staticLayer.setDevicePixelRatio(scale);
@@ -215,9 +232,11 @@ void PowerFlowView::paintEvent(QPaintEvent *)
         m_staticLayerKey = key;
     }
     painter.drawPixmap(0, 0, m_staticLayer);
-    if (!m_frameTimer.isActive())
-        m_phase = currentPhase(); // a still picture: 0.5 with motion reduced
-    paintConnectorDots(painter, connectorRect(), snapshot(), m_phase);
+    if (!m_frameTimer.isActive()) // a still picture: phase 0.5 with motion reduced
+        placeDots(currentPhase());
+    else if (m_dotsRevision != snapshotRevision())
+        placeDots(m_phase);
+    paintDots(painter);
 }
 
 } // namespace ferrow

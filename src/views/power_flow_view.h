@@ -1,10 +1,14 @@
 #pragma once
 
+#include "views/power_flow_model.h"
 #include "views/snapshot_view.h"
 
+#include <QHash>
 #include <QPixmap>
 #include <QRect>
 #include <QTimer>
+
+#include <array>
 
 namespace ferrow {
 
@@ -19,10 +23,8 @@ public:
     bool isAnimating() const { return m_frameTimer.isActive(); }
     QSize sizeHint() const override { return {430, 116}; }
 
-    // The connector's routes, and its dots at one phase; the view draws routes once a reading and
-    // dots every frame.
+    // The connector's routes, drawn once a reading into the cached layer.
     static void paintConnectorRoutes(QPainter &painter, const QRectF &rect, const PowerSnapshot &snapshot);
-    static void paintConnectorDots(QPainter &painter, const QRectF &rect, const PowerSnapshot &snapshot, double phase);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -35,12 +37,15 @@ private:
     double currentPhase() const;
     QRectF connectorRect() const;
     void paintStaticLayer(QPainter &painter);
+    void placeDots(double phase);
+    void paintDots(QPainter &painter);
+    const QPixmap &dotSprite(QRgb color, qreal scale);
 
     QTimer m_frameTimer;
     bool m_reduceMotion = false;
     // Everything but the dots, redrawn only when the reading, appearance, size or scale changes.
     struct StaticLayerKey {
-        PowerSnapshot snapshot;
+        quint64 snapshotRevision = 0;
         ColorScheme scheme = ColorScheme::light;
         QSize size;
         qreal scale = 0;
@@ -50,7 +55,13 @@ private:
     StaticLayerKey m_staticLayerKey;
     // Each frame repaints only the box around where the dots were and where they are now.
     double m_phase = 0.5;
+    std::array<FlowDot, 3> m_dots{};
+    quint64 m_dotsRevision = ~quint64(0); // the snapshot m_dots were placed for
     QRect m_dotBounds;
+    // One sprite per dot colour, in steps too fine to see: a blit per dot instead of three
+    // antialiased ellipses a frame.
+    QHash<QRgb, QPixmap> m_dotSprites;
+    qreal m_dotSpriteScale = 0;
 };
 
 } // namespace ferrow

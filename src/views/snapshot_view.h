@@ -15,6 +15,7 @@ public:
     void setSnapshot(const PowerSnapshot &snapshot)
     {
         m_snapshot = snapshot;
+        ++m_snapshotRevision;
         update();
     }
     void setFerrowPalette(const FerrowPalette &palette)
@@ -24,9 +25,12 @@ public:
     }
     const PowerSnapshot &snapshot() const { return m_snapshot; }
     const FerrowPalette &ferrowPalette() const { return m_palette; }
+    // Changes with every setSnapshot: cheaper to compare than the snapshot itself.
+    quint64 snapshotRevision() const { return m_snapshotRevision; }
 
 private:
     PowerSnapshot m_snapshot = PowerSnapshot::empty();
+    quint64 m_snapshotRevision = 0;
     FerrowPalette m_palette;
 };
 
