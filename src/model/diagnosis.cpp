@@ -3,6 +3,26 @@
 #include <QJsonArray>
 
 namespace ferrow {
+namespace {
+
+// A name or value from the machine may hold anything, a file name a newline: each entry stays one
+// line, its control characters written out as escapes.
+QString oneLine(const QString &text)
+{
+    QString line;
+    line.reserve(text.size());
+    for (const QChar character : text) {
+        if (character == u'\n')
+            line += QStringLiteral("\\n");
+        else if (character.category() == QChar::Other_Control)
+            line += QStringLiteral("\\x%1").arg(character.unicode(), 2, 16, QChar(u'0'));
+        else
+            line += character;
+    }
+    return line;
+}
+
+} // namespace
 
 QString diagnosisText(const Diagnosis &diagnosis)
 {
@@ -12,13 +32,13 @@ QString diagnosisText(const Diagnosis &diagnosis)
             text += u'\n';
         text += section.title + u'\n';
         for (const DiagnosisEntry &entry : section.entries) {
-            text += QStringLiteral("  ") + entry.name + QStringLiteral(": ");
+            text += QStringLiteral("  ") + oneLine(entry.name) + QStringLiteral(": ");
             if (entry.value.isEmpty())
                 text += QStringLiteral("\u2014");
             else
-                text += entry.value;
+                text += oneLine(entry.value);
             if (!entry.why.isEmpty())
-                text += entry.value.isEmpty() ? u' ' + entry.why : QStringLiteral(" (") + entry.why + u')';
+                text += entry.value.isEmpty() ? u' ' + oneLine(entry.why) : QStringLiteral(" (") + oneLine(entry.why) + u')';
             text += u'\n';
         }
     }

@@ -1,6 +1,7 @@
 #include "app/text_table.h"
 #include "export/snapshot_json.h"
 #include "platform/common/in_memory_key_value_store.h"
+#include "platform/linux/linux_diagnosis.h"
 #include "platform/linux/linux_power_reader.h"
 #include "platform/native_machine.h"
 #include "support/json_compare.h"
@@ -14,6 +15,8 @@
 #include <QTimer>
 
 #include <csignal>
+
+#include <sys/stat.h>
 
 using namespace ferrow;
 using namespace ferrow::testing;
@@ -160,6 +163,54 @@ private slots:
         replayed.remove(QStringLiteral("updatedAt"));
         QCOMPARE(replayed, original);
         QVERIFY(!recordSysfsTree((kFixtures + fixture).toStdString(), copy, &error)); // into a folder already used
+    }
+
+    // Hostile content reads as the file's absence, at a page's cost at most (an endless or blocking
+    // file would hang the test), and the diagnosis keeps one entry a line.
+    void hostileTree_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("attribute"); // in BAT0
+        for (const char *kind : {"many megabytes", "two lines"}) // a text read in full would pass as a model name
+            QTest::newRow(kind) << QString::fromLatin1(kind) << QStringLiteral("model_name");
+        for (const char *kind : {"/dev/zero", "named pipe", "symlink loop", "odd supply names"})
+            QTest::newRow(kind) << QString::fromLatin1(kind) << QStringLiteral("voltage_now");
+    }
+
+    void hostileTree()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, attribute);
+        QTemporaryDir plainScratch, hostileScratch;
+        const QString plain = copyOf(QStringLiteral("sysfs-intel-notebook"), plainScratch);
+        const QString hostile = copyOf(QStringLiteral("sysfs-intel-notebook"), hostileScratch);
+        const QString supplies = QStringLiteral("/sys/class/power_supply/");
+        const QString file = hostile + supplies + QStringLiteral("BAT0/") + attribute;
+        if (kind == u"odd supply names") {
+            const QString odd = hostile + supplies + QStringLiteral("odd\nsupply");
+            QDir().mkpath(odd);
+            applyEdits(odd, {QStringLiteral("type=Wireless")});
+            QVERIFY(QFile::link(hostile + supplies + QStringLiteral("loop"), hostile + supplies + QStringLiteral("loop")));
+        } else {
+            QFile::remove(plain + supplies + QStringLiteral("BAT0/") + attribute);
+            QFile::remove(file);
+            if (kind == u"many megabytes" || kind == u"two lines") {
+                QFile content(file);
+                QVERIFY(content.open(QIODevice::WriteOnly));
+                content.write(kind == u"two lines" ? QByteArray("NB57\nrogue\n") : QByteArray(8 << 20, 'N'));
+            } else if (kind == u"named pipe") {
+                QCOMPARE(::mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+            } else {
+                QVERIFY(QFile::link(kind == u"/dev/zero" ? QStringLiteral("/dev/zero") : file, file));
+            }
+        }
+        QJsonObject expected = readTwice(plain, {}), read = readTwice(hostile, {});
+        expected.remove(QStringLiteral("updatedAt"));
+        read.remove(QStringLiteral("updatedAt"));
+        QCOMPARE(read, expected);
+        SysfsFiles files(hostile.toStdString());
+        for (const QString &line : diagnosisText(diagnoseLinuxTree(files)).split(u'\n'))
+            QVERIFY2(line.isEmpty() || line.startsWith(QStringLiteral("  ")) || line.contains(QStringLiteral("(sys/class/")), qPrintable(line));
     }
 
     // The handler only writes to a pipe; the event loop quits when it reads it. Twice: a second

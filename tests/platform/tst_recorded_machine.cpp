@@ -19,6 +19,8 @@
 #include <functional>
 #include <limits>
 
+#include <sys/stat.h>
+
 using namespace ferrow;
 using namespace ferrow::testing;
 
@@ -232,6 +234,37 @@ private slots:
         QVERIFY(!loadRecording(folder.path(), &error));
         QVERIFY2(error.contains(row[u"message"].toString()), qPrintable(error));
         QVERIFY2(error.startsWith(folder.path()), "the message names the file");
+    }
+
+    // A recording whose machine file never ends, blocks or loops is refused in one line naming it.
+    void hostileRecording_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("many megabytes") << QStringLiteral("huge") << QStringLiteral("larger than 16 MiB");
+        QTest::newRow("/dev/zero") << QStringLiteral("/dev/zero") << QStringLiteral("not a regular file");
+        QTest::newRow("named pipe") << QStringLiteral("pipe") << QStringLiteral("not a regular file");
+        QTest::newRow("symlink loop") << QStringLiteral("loop") << QStringLiteral("cannot be read");
+    }
+
+    void hostileRecording()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, message);
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("machine.json"));
+        if (kind == u"huge") {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            QVERIFY(file.resize(17 << 20));
+        } else if (kind == u"pipe") {
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        } else {
+            QVERIFY(QFile::link(kind == u"loop" ? path : kind, path));
+        }
+        QString error;
+        QVERIFY(!loadRecording(folder.path(), &error));
+        QVERIFY2(error.startsWith(path) && error.contains(message) && !error.contains(u'\n'), qPrintable(error));
     }
 
     // A recording made through the same path as on a Mac replays as its twin reads at that moment, figure

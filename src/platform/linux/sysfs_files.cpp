@@ -12,6 +12,8 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 namespace ferrow {
@@ -19,6 +21,7 @@ namespace {
 
 // A sysfs attribute is at most a page; anything longer is not one of ours.
 constexpr std::size_t kMaximumFileSize = 4096;
+constexpr long kSysfsMagic = 0x62656572; // SYSFS_MAGIC of <linux/magic.h>
 
 std::string_view trimmed(std::string_view text)
 {
@@ -43,26 +46,69 @@ std::string SysfsFiles::path(std::string_view relative) const
     return m_root + std::string(relative);
 }
 
+SysfsFiles::~SysfsFiles()
+{
+    for (const auto &[path, file] : m_openFiles)
+        ::close(file.descriptor);
+}
+
+int SysfsFiles::descriptor(const std::string &path)
+{
+    if (const auto found = m_openFiles.find(path); found != m_openFiles.end()) {
+        struct stat status {};
+        if (found->second.onSysfs || (::fstat(found->second.descriptor, &status) == 0 && status.st_nlink > 0))
+            return found->second.descriptor;
+        forget(path); // replaced or removed in a copied tree: read what is there now
+    }
+    // Non-blocking, so that a pipe in a hostile tree cannot hold the reading up.
+    const int opened = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (opened < 0)
+        return -1;
+    struct stat status {};
+    struct statfs filesystem {};
+    if (::fstat(opened, &status) != 0 || !S_ISREG(status.st_mode) || ::fstatfs(opened, &filesystem) != 0) {
+        ::close(opened);
+        return -1;
+    }
+    m_openFiles[path] = {opened, static_cast<long>(filesystem.f_type) == kSysfsMagic};
+    return opened;
+}
+
+void SysfsFiles::forget(const std::string &path)
+{
+    if (const auto found = m_openFiles.find(path); found != m_openFiles.end()) {
+        ::close(found->second.descriptor);
+        m_openFiles.erase(found);
+    }
+}
+
 std::optional<std::size_t> SysfsFiles::readRaw(const std::string &path, char *buffer, std::size_t capacity)
 {
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0)
-        return std::nullopt;
     std::size_t size = 0;
-    bool failed = false;
-    while (size < capacity) {
-        const ssize_t count = ::read(descriptor, buffer + size, capacity - size);
-        if (count < 0 && errno == EINTR)
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        const int file = descriptor(path);
+        if (file < 0)
+            return std::nullopt;
+        size = 0;
+        int error = 0;
+        while (size < capacity) {
+            const ssize_t count = ::pread(file, buffer + size, capacity - size, static_cast<off_t>(size));
+            if (count < 0 && errno == EINTR)
+                continue;
+            if (count < 0)
+                error = errno;
+            if (count <= 0)
+                break;
+            size += static_cast<std::size_t>(count);
+        }
+        if (error == ENODEV && attempt == 0) {
+            forget(path); // its device went away; the same path may belong to a new one
             continue;
-        if (count < 0)
-            failed = true; // a driver's error (EIO, ENODATA, EBUSY): the value is not there now
-        if (count <= 0)
-            break;
-        size += static_cast<std::size_t>(count);
+        }
+        if (error != 0 || size == capacity)
+            return std::nullopt; // a driver's error (EIO, ENODATA, EBUSY), or no attribute at that size
+        break;
     }
-    ::close(descriptor);
-    if (failed)
-        return std::nullopt;
     if (!m_copyRoot.empty())
         copy(path, buffer, size);
     return size;
@@ -70,10 +116,10 @@ std::optional<std::size_t> SysfsFiles::readRaw(const std::string &path, char *bu
 
 std::string SysfsFiles::openError(const std::string &path) const
 {
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0)
+    const int opened = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (opened < 0)
         return std::strerror(errno);
-    ::close(descriptor);
+    ::close(opened);
     return {};
 }
 
@@ -84,7 +130,9 @@ std::optional<std::string> SysfsFiles::readText(const std::string &path)
     if (!size)
         return std::nullopt;
     const std::string_view text = trimmed(std::string_view(buffer, *size));
-    return text.empty() ? std::nullopt : std::optional(std::string(text));
+    if (text.empty() || text.find_first_of("\r\n") != std::string_view::npos)
+        return std::nullopt;
+    return std::string(text);
 }
 
 std::optional<std::int64_t> SysfsFiles::readInteger(const std::string &path)
@@ -109,6 +157,8 @@ std::vector<std::string> SysfsFiles::list(const std::string &folder) const
         const std::string_view name = entry->d_name;
         if (name != "." && name != "..")
             names.emplace_back(name);
+        if (names.size() == kMostNames)
+            break;
     }
     ::closedir(directory);
     std::sort(names.begin(), names.end());

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -15,16 +16,22 @@ constexpr qint64 kMaximumFileSize = 16 * 1024 * 1024;
 
 std::optional<QByteArray> readFile(const QString &path, QString *error)
 {
+    // Only a regular file: a pipe would block the opening, a device such as /dev/zero never ends.
+    if (QFileInfo(path).exists() && !QFileInfo(path).isFile()) {
+        *error = QStringLiteral("%1: not a regular file, not a recording").arg(path);
+        return std::nullopt;
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         *error = QStringLiteral("%1: cannot be read: %2").arg(path, file.errorString());
         return std::nullopt;
     }
-    if (file.size() > kMaximumFileSize) {
+    QByteArray contents = file.read(kMaximumFileSize + 1);
+    if (contents.size() > kMaximumFileSize) {
         *error = QStringLiteral("%1: larger than %2 MiB, not a recording").arg(path).arg(kMaximumFileSize / 1024 / 1024);
         return std::nullopt;
     }
-    return file.readAll();
+    return contents;
 }
 
 class RecordedEnergySource final : public EnergyReportSource {
