@@ -4,7 +4,7 @@ BUILD_DIR    := build
 SANITIZE_DIR := build-sanitize
 FUZZ_DIR     := build-fuzz
 FUZZ_SECONDS ?= 60
-FUZZ_TARGETS := property_list recording profiler_json history_record smc_decode
+FUZZ_TARGETS := property_list recording profiler_json history_record smc_decode http_request
 CMAKE_FLAGS  := -G Ninja -DFERROW_WARNINGS_AS_ERRORS=ON
 
 ifeq ($(shell uname -s),Darwin)
@@ -30,20 +30,28 @@ test: test-deps build build-sanitize
 bench: build
 	@for program in $(BUILD_DIR)/bench/bench_*; do echo "== $$program"; $$program; done
 
-# Each target runs FUZZ_SECONDS on a scratch copy of its seed corpus; a crash leaves its input
-# as build-fuzz/crash-* (fix it, then add the input to fuzz/corpus/).
+# Each target runs FUZZ_SECONDS, or FUZZ_RUNS executions when given (`make fuzz FUZZ_RUNS=10000000`),
+# on a scratch copy of its seed corpus, then prints its executions and coverage. What it found that
+# reaches new code is merged into fuzz/corpus/ (commit it); a crash leaves its input as
+# build-fuzz/crash-* (fix it, then add the input to fuzz/corpus/).
 fuzz:
 	@tools/install-deps.sh --fuzz
 	@test -f $(FUZZ_DIR)/build.ninja || CC=clang CXX=clang++ cmake -S . -B $(FUZZ_DIR) -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
 		-DFERROW_FUZZ=ON -DFERROW_SANITIZE=ON -DFERROW_BUILD_TESTS=OFF -DFERROW_BUILD_BENCHMARKS=OFF $(filter-out -G Ninja,$(CMAKE_FLAGS))
 	@cmake --build $(FUZZ_DIR) --target $(addprefix fuzz_,$(FUZZ_TARGETS))
 	@for target in $(FUZZ_TARGETS); do \
+		program=$(FUZZ_DIR)/fuzz/fuzz_$$target; log=$(FUZZ_DIR)/fuzz_$$target.log; \
 		mkdir -p $(FUZZ_DIR)/corpus/$$target; \
-		echo "== fuzz_$$target for $(FUZZ_SECONDS) s"; \
-		$(FUZZ_DIR)/fuzz/fuzz_$$target $(FUZZ_DIR)/corpus/$$target fuzz/corpus/$$target -max_total_time=$(FUZZ_SECONDS) \
-			-artifact_prefix=$(FUZZ_DIR)/crash-$$target- -print_final_stats=1 > $(FUZZ_DIR)/fuzz_$$target.log 2>&1; \
-		status=$$?; tail -n 4 $(FUZZ_DIR)/fuzz_$$target.log; \
-		if [ $$status -ne 0 ]; then grep -A3 -E 'ERROR|runtime error' $(FUZZ_DIR)/fuzz_$$target.log | head -n 8; exit 1; fi; \
+		echo "== fuzz_$$target for $(if $(FUZZ_RUNS),$(FUZZ_RUNS) executions,$(FUZZ_SECONDS) s)"; \
+		$$program $(FUZZ_DIR)/corpus/$$target fuzz/corpus/$$target $(if $(FUZZ_RUNS),-runs=$(FUZZ_RUNS),-max_total_time=$(FUZZ_SECONDS)) \
+			-artifact_prefix=$(FUZZ_DIR)/crash-$$target- -print_final_stats=1 > $$log 2>&1; \
+		status=$$?; \
+		if [ $$status -ne 0 ]; then grep -A3 -E 'ERROR|runtime error' $$log | head -n 8; exit 1; fi; \
+		awk '/DONE/ { coverage = $$3 " " $$4 " " $$5 " " $$6 } \
+			/^stat::number_of_executed_units/ { runs = $$2 } /^stat::average_exec_per_sec/ { speed = $$2 } \
+			END { printf "   %d executions (%d a second), no finding; %s\n", runs, speed, coverage }' $$log; \
+		$$program -merge=1 fuzz/corpus/$$target $(FUZZ_DIR)/corpus/$$target > $(FUZZ_DIR)/merge_$$target.log 2>&1 \
+			&& grep -o 'MERGE-OUTER: [0-9]* new files' $(FUZZ_DIR)/merge_$$target.log | sed 's/^MERGE-OUTER:/   kept in fuzz\/corpus:/'; \
 	done
 
 deps:
