@@ -47,6 +47,7 @@ MetricsServer::MetricsServer(std::function<QByteArray()> metrics, QObject *paren
     , m_metrics(std::move(metrics))
     , m_deadline(deadline)
 {
+    // Qt would accept up to 30 connections ahead of their turn; the rest wait in the kernel.
     m_server.setMaxPendingConnections(1);
     m_server.setListenBacklogSize(kListenBacklog);
     connect(&m_server, &QTcpServer::newConnection, this, &MetricsServer::acceptConnections);
