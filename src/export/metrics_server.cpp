@@ -24,12 +24,32 @@ QByteArray httpResponse(QByteArrayView status, QByteArrayView contentType, const
     return out;
 }
 
+// Our side closes once the answer is out; the client closes theirs when it has read it. Closing
+// both while a long request still arrives would reset the connection and lose the answer.
+void closeOnceAnswered(QTcpSocket *socket)
+{
+    if (socket->property(kAnswered).toBool() && socket->bytesToWrite() == 0 && socket->state() == QAbstractSocket::ConnectedState)
+        ::shutdown(static_cast<int>(socket->socketDescriptor()), SHUT_WR);
+}
+
 } // namespace
 
-MetricsServer::MetricsServer(std::function<QByteArray()> metrics, QObject *parent)
+void QueueingTcpServer::incomingConnection(qintptr descriptor)
+{
+    auto *socket = new QTcpSocket(this);
+    socket->setReadBufferSize(1);
+    socket->setSocketDescriptor(descriptor);
+    addPendingConnection(socket);
+}
+
+MetricsServer::MetricsServer(std::function<QByteArray()> metrics, QObject *parent, std::chrono::milliseconds deadline)
     : QObject(parent)
     , m_metrics(std::move(metrics))
+    , m_deadline(deadline)
 {
+    // Qt would accept up to 30 connections ahead of their turn; the rest wait in the kernel.
+    m_server.setMaxPendingConnections(1);
+    m_server.setListenBacklogSize(kListenBacklog);
     connect(&m_server, &QTcpServer::newConnection, this, &MetricsServer::acceptConnections);
 }
 
@@ -51,33 +71,45 @@ bool MetricsServer::listen(const ListenAddress &address, QString *error)
 
 void MetricsServer::acceptConnections()
 {
-    while (QTcpSocket *socket = m_server.nextPendingConnection()) {
-        if (m_openConnections >= kMaxOpenConnections) {
-            socket->abort();
-            delete socket;
-            continue;
-        }
-        ++m_openConnections;
-        connect(socket, &QObject::destroyed, this, [this] { --m_openConnections; });
-        // Qt stops reading from the network once this much is buffered: a long request costs no memory.
-        socket->setReadBufferSize(kMaxRequestHeadBytes);
-        auto *deadline = new QTimer(socket);
-        deadline->setSingleShot(true);
-        connect(deadline, &QTimer::timeout, socket, [socket] {
-            socket->abort();
-            socket->deleteLater();
-        });
-        deadline->start(kRequestDeadline);
-        connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-        connect(socket, &QTcpSocket::readyRead, this, [this, socket] { receive(socket); });
-        connect(socket, &QTcpSocket::bytesWritten, socket, [socket] {
-            // Our side closes once the answer is out; the client closes theirs when it has read
-            // it. Closing both while a long request still arrives would reset the connection and
-            // lose the answer.
-            if (socket->property(kAnswered).toBool() && socket->bytesToWrite() == 0)
-                ::shutdown(static_cast<int>(socket->socketDescriptor()), SHUT_WR);
-        });
+    while (m_openConnections < kMaxOpenConnections) {
+        QTcpSocket *socket = m_server.nextPendingConnection();
+        if (!socket)
+            return;
+        serve(socket);
     }
+    // Taking a connection resumes accepting, so this comes after the last one taken.
+    m_server.pauseAccepting();
+}
+
+void MetricsServer::connectionClosed()
+{
+    --m_openConnections;
+    if (!m_server.isListening())
+        return;
+    m_server.resumeAccepting();
+    acceptConnections();
+}
+
+void MetricsServer::serve(QTcpSocket *socket)
+{
+    ++m_openConnections;
+    connect(socket, &QObject::destroyed, this, &MetricsServer::connectionClosed);
+    // Qt stops reading from the network once this much is buffered: a long request costs no memory.
+    socket->setReadBufferSize(kMaxRequestHeadBytes);
+    auto *deadline = new QTimer(socket);
+    deadline->setSingleShot(true);
+    connect(deadline, &QTimer::timeout, socket, [socket] {
+        // abort(), not a close that would first wait for a client who never reads the answer.
+        socket->abort();
+        socket->deleteLater();
+    });
+    deadline->start(m_deadline);
+    connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+    connect(socket, &QTcpSocket::readyRead, this, [this, socket] { receive(socket); });
+    connect(socket, &QTcpSocket::bytesWritten, socket, [socket] { closeOnceAnswered(socket); });
+    // A connection that waited for its turn may be gone already, its disconnected() unheard.
+    if (socket->state() != QAbstractSocket::ConnectedState)
+        socket->deleteLater();
 }
 
 void MetricsServer::receive(QTcpSocket *socket)
@@ -92,6 +124,10 @@ void MetricsServer::receive(QTcpSocket *socket)
     socket->setProperty(kAnswered, true);
     socket->skip(socket->bytesAvailable());
     socket->write(response(request));
+    // Into the kernel now (bytesWritten() closes our side): a client that shut down its side
+    // after the request is read as gone on the next turn of the event loop, and Qt would drop
+    // what it had not written by then.
+    socket->flush();
 }
 
 QByteArray MetricsServer::response(const HttpRequest &request) const

@@ -1,15 +1,17 @@
 #!/usr/bin/env python3
 """Runs `ferrow-cli --serve` on the simulated notebook and checks it from the outside.
 
-Usage: prometheus_scrape.py FERROW_CLI scrape|promtool|robustness
+Usage: prometheus_scrape.py FERROW_CLI scrape|promtool|robustness|load
 
   scrape      a real Prometheus scrapes it every second; its query API must return a plausible
               ferrow_system_power_watts after two scrapes.
   promtool    `promtool check metrics` accepts the scraped text, energy counters included.
-  robustness  a 1 MB request, a client that sends nothing and 100 connections at once leave the
-              exporter answering /metrics, with fresh readings.
+  robustness  a 1 MB request and a client that sends nothing are dealt with, 100 connections at
+              once are all served in turn, and the readings stay fresh.
+  load        ab (apache2-utils) sends 10,000 scrapes, 50 at a time: none may fail, the exporter's
+              resident memory must stay flat, and its readings must keep their once-a-second pace.
 
-Exits 77 (skipped) when prometheus or promtool is not installed. Every process it starts is
+Exits 77 (skipped) when prometheus, promtool or ab is not installed. Every process it starts is
 stopped on every way out, and the exporter must then exit cleanly (sanitizer builds report there).
 """
 
@@ -21,6 +23,7 @@ import socket
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 import urllib.parse
 import urllib.request
@@ -73,10 +76,10 @@ def sample(text, name):
     return None
 
 
-def start_exporter(cli):
+def start_exporter(cli, environment=None):
     port = free_port()
     exporter = subprocess.Popen([cli, "--source", "simulated", "--serve", f"127.0.0.1:{port}"],
-                                stdout=subprocess.DEVNULL)
+                                stdout=subprocess.DEVNULL, env=environment)
     children.append(exporter)
     wait_until("the exporter's first reading",
                lambda: sample(http_get(port, timeout=1)[2], "ferrow_system_power_watts") is not None, 20)
@@ -149,10 +152,10 @@ def check_robustness(port):
             s.sendall(b"GET /metrics HTTP/1.1\r\n\r\n")
             answered += s.recv(16).startswith(b"HTTP/1.1 200")
         except OSError:
-            pass  # closed at once: over the limit
+            pass
         s.close()
-    if not 1 <= answered <= 8:
-        fail(f"{answered} of 100 simultaneous connections were served; at most 8 may be open")
+    if answered != 100:
+        fail(f"{answered} of 100 simultaneous connections were served; those over the limit must wait their turn")
 
     silent.settimeout(10)
     try:
@@ -168,8 +171,63 @@ def check_robustness(port):
     after = sample(http_get(port)[2], "ferrow_reading_timestamp_seconds")
     if not after > before + 1:
         fail(f"readings stalled: {before} then {after}")
-    print(f"1 MB request answered 431, {answered} of 100 simultaneous connections served, "
+    print(f"1 MB request answered 431, all {answered} simultaneous connections served in turn, "
           f"a silent client cut off, readings went on ({after - before:.1f} s later)")
+
+
+def resident_kib(pid):
+    return int(subprocess.run(["ps", "-o", "rss=", "-p", str(pid)], capture_output=True, text=True, check=True).stdout)
+
+
+def run_ab(port, requests):
+    # -l: the text's length changes with the readings, which ab would otherwise count as failures.
+    done = subprocess.run([shutil.which("ab"), "-l", "-r", "-s", "30", "-n", str(requests), "-c", "50",
+                           f"http://127.0.0.1:{port}/metrics"], capture_output=True, text=True, timeout=100)
+    figures = {}
+    for line in done.stdout.splitlines():
+        key, _, value = line.partition(":")
+        if value.split():
+            figures.setdefault(key.strip(), value.split()[0])  # the first "Time per request" is per client
+    if (done.returncode != 0 or figures.get("Complete requests") != str(requests) or figures.get("Failed requests") != "0"
+            or "Write errors" in figures or "Non-2xx responses" in figures):
+        fail(f"ab -n {requests} -c 50:\n{done.stdout}{done.stderr}")
+    return figures
+
+
+def check_load(exporter, port):
+    run_ab(port, 2000)  # the allocator's and Qt's first-use setup comes before the figure to compare
+    before = resident_kib(exporter.pid)
+    ages, errors = [], []
+    finished = threading.Event()
+
+    def watch():
+        while not finished.is_set():
+            try:
+                text = http_get(port, timeout=10)[2]
+            except OSError as error:
+                errors.append(error)
+                return
+            ages.append(time.time() - sample(text, "ferrow_reading_timestamp_seconds"))
+            time.sleep(0.1)
+
+    watcher = threading.Thread(target=watch)
+    watcher.start()
+    try:
+        figures = run_ab(port, 10000)
+    finally:
+        finished.set()
+        watcher.join()
+    after = resident_kib(exporter.pid)
+    if errors:
+        fail(f"a scrape beside ab failed: {errors[0]}")
+    # A reading a second: a scrape never finds one two seconds old unless one was late or missed.
+    if not ages or max(ages) >= 2:
+        fail(f"readings under load were up to {max(ages, default=0):.1f} s old")
+    if after - before > 4096:
+        fail(f"resident memory grew from {before} KiB to {after} KiB over 10,000 scrapes")
+    print(f"ab: 10,000 scrapes, 50 at a time, none failed: {figures['Requests per second']} per second, "
+          f"{figures['Time per request']} ms each; resident memory {before} KiB before, {after} KiB after; "
+          f"readings at most {max(ages):.2f} s old in {len(ages)} scrapes meanwhile")
 
 
 def stop(process):
@@ -183,23 +241,33 @@ def stop(process):
 
 
 def main():
-    if len(sys.argv) != 3 or sys.argv[2] not in ("scrape", "promtool", "robustness"):
+    if len(sys.argv) != 3 or sys.argv[2] not in ("scrape", "promtool", "robustness", "load"):
         sys.exit(__doc__)
     cli, check = sys.argv[1], sys.argv[2]
-    tool = {"scrape": "prometheus", "promtool": "promtool"}.get(check)
+    tool, install = {"scrape": ("prometheus", "apt-get install prometheus; macOS: brew install prometheus"),
+                     "promtool": ("promtool", "apt-get install prometheus; macOS: brew install prometheus"),
+                     "load": ("ab", "apt-get install apache2-utils")}.get(check, (None, None))
     if tool and not shutil.which(tool):
-        print(f"SKIP: {tool} is not installed (Debian: apt-get install prometheus; macOS: brew install prometheus)")
+        print(f"SKIP: {tool} is not installed (Debian: {install})")
         sys.exit(SKIP)
     # CTest ends a test that runs too long with SIGTERM: clean up on that way out too.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit("FAIL: terminated"))
     scratch = tempfile.mkdtemp(prefix="ferrow-metrics-")
     exporter = None
     try:
-        exporter, port = start_exporter(cli)
+        environment = None
+        if check == "load":
+            # AddressSanitizer's quarantine holds back up to 256 MB of freed memory, which would hide
+            # whether the exporter's own stays flat; other builds ignore the option.
+            options = [os.environ.get("ASAN_OPTIONS", ""), "quarantine_size_mb=1"]
+            environment = dict(os.environ, ASAN_OPTIONS=":".join(filter(None, options)))
+        exporter, port = start_exporter(cli, environment)
         if check == "scrape":
             check_scrape(port, scratch)
         elif check == "promtool":
             check_promtool(port)
+        elif check == "load":
+            check_load(exporter, port)
         else:
             check_robustness(port)
     finally:
