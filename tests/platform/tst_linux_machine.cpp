@@ -83,6 +83,11 @@ QJsonObject readTwice(const QString &root, const QStringList &betweenReads)
 
 const QString kRapl = QStringLiteral("sys/class/powercap/intel-rapl:");
 
+qsizetype openFileCount()
+{
+    return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
+}
+
 } // namespace
 
 class LinuxMachineTest : public QObject {
@@ -102,8 +107,10 @@ private slots:
         QTemporaryDir scratch;
         const QString root = copyOf(row[u"fixture"].toString(), scratch);
         applyEdits(root, texts(u"edits"));
+        const qsizetype openFiles = openFileCount();
         const QString mismatches = jsonMismatches(readTwice(root, texts(u"betweenReads")), row[u"expected"].toObject());
         QVERIFY2(mismatches.isEmpty(), qPrintable(mismatches));
+        QCOMPARE(openFileCount(), openFiles); // the files a reader keeps open, replaced ones too, close with it
     }
 
     // What decides between this machine and the simulated one, and whether to say how to allow chip power.
