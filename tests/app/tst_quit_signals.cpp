@@ -32,8 +32,9 @@ QString integrity(const QString &path)
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
         db.setDatabaseName(path);
         db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+        const bool opened = db.open();
         QSqlQuery query(db);
-        if (!db.open() || !query.exec(QStringLiteral("PRAGMA integrity_check")))
+        if (!opened || !query.exec(QStringLiteral("PRAGMA integrity_check")))
             result = db.lastError().text() + query.lastError().text();
         while (query.next())
             result += query.value(0).toString();
