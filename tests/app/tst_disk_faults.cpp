@@ -135,6 +135,7 @@ private slots:
         environment.insert(QStringLiteral("ALIVE_S"), QString::number(kAliveSeconds));
         environment.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
         environment.insert(QStringLiteral("HOME"), work.path());
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen")); // windows, not the terminal view
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), work.filePath(QStringLiteral("config")));
         environment.insert(QStringLiteral("XDG_DATA_HOME"), work.filePath(QStringLiteral("data")));
         environment.insert(QStringLiteral("XDG_CACHE_HOME"), work.filePath(QStringLiteral("cache")));

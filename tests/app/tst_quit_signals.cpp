@@ -136,6 +136,7 @@ private slots:
                                                                : QRandomGenerator::system()->generate();
         qInfo("FERROW_TEST_SEED=%u repeats this run", m_seed);
         m_environment.insert(QStringLiteral("HOME"), m_home.path());
+        m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen")); // windows, not the terminal view
         m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.filePath(QStringLiteral("config")));
         m_environment.insert(QStringLiteral("XDG_DATA_HOME"), m_home.filePath(QStringLiteral("data")));
         m_environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_home.filePath(QStringLiteral("cache")));
