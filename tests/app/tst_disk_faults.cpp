@@ -76,6 +76,7 @@ private slots:
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("faulted"); // the home on the faulty disk: config or data
         QTest::addColumn<QString>("condition");
+        QTest::addColumn<bool>("stored");     // the faulted home held the file before
         QTest::addColumn<bool>("lasting");    // runs until it is told to stop
         QTest::addColumn<QString>("message"); // the one line it says, or none
 
@@ -86,18 +87,19 @@ private slots:
         const QString data = QStringLiteral("data");
         const QString full = QStringLiteral("full");
         const QString readOnly = QStringLiteral("read-only");
-        QTest::newRow("app, history, full") << app << data << full << true << history.arg(full);
-        QTest::newRow("app, history, read-only") << app << data << readOnly << true << history.arg(readOnly);
-        QTest::newRow("app, preferences, full") << app << config << full << true << preferences.arg(app, full);
-        QTest::newRow("app, preferences, read-only") << app << config << readOnly << true << preferences.arg(app, readOnly);
+        QTest::newRow("app, history, full") << app << data << full << true << true << history.arg(full);
+        QTest::newRow("app, history, read-only") << app << data << readOnly << true << true << history.arg(readOnly);
+        QTest::newRow("app, preferences, full") << app << config << full << true << true << preferences.arg(app, full);
+        QTest::newRow("app, preferences, read-only") << app << config << readOnly << true << true << preferences.arg(app, readOnly);
         const QString cli = QStringLiteral("ferrow-cli");
-        QTest::newRow("cli --watch, full") << QStringLiteral("ferrow-cli --watch") << config << full << true << preferences.arg(cli, full);
-        QTest::newRow("cli --serve, read-only") << QStringLiteral("ferrow-cli --serve PORT") << config << readOnly << true << preferences.arg(cli, readOnly);
-        QTest::newRow("cli --once, full") << QStringLiteral("ferrow-cli --once") << config << full << false << preferences.arg(cli, full);
+        QTest::newRow("cli --watch, full") << QStringLiteral("ferrow-cli --watch") << config << full << true << true << preferences.arg(cli, full);
+        QTest::newRow("cli --serve, read-only") << QStringLiteral("ferrow-cli --serve PORT") << config << readOnly << true << true << preferences.arg(cli, readOnly);
+        QTest::newRow("cli --once, full, nothing stored yet") << QStringLiteral("ferrow-cli --once") << config << full << false << false
+                                                              << preferences.arg(cli, full);
         // Reading a history file makes SQLite's index files beside it, for which there is no room here.
         const QString historyCsv = QStringLiteral("ferrow-cli --history --per minute --from 2025-12-31 --to 2026-01-02");
-        QTest::newRow("cli --history, full") << historyCsv << data << full << false << QString();
-        QTest::newRow("cli --history, read-only") << historyCsv << data << readOnly << false << QString();
+        QTest::newRow("cli --history, full") << historyCsv << data << full << true << false << QString();
+        QTest::newRow("cli --history, read-only") << historyCsv << data << readOnly << true << false << QString();
     }
 
     void storedFilesSurvive()
@@ -105,15 +107,18 @@ private slots:
         QFETCH(QString, command);
         QFETCH(QString, faulted);
         QFETCH(QString, condition);
+        QFETCH(bool, stored);
         QFETCH(bool, lasting);
         QFETCH(QString, message);
 
         QTemporaryDir work;
         const QString preferencesFile = QStringLiteral("config/Ferrow/Ferrow.conf");
         const QString databaseFile = QStringLiteral("data/Ferrow/Ferrow/history.sqlite");
-        {
+        if (stored) {
             QSettings settings(work.filePath(preferencesFile), QSettings::IniFormat);
             QVERIFY(writePreferences(settings, m_chosen));
+        }
+        {
             HistoryDatabase database(work.filePath(databaseFile), HistoryDatabase::Mode::readWrite);
             MinuteRecord minute;
             minute.start = kStoredMinute;
@@ -122,7 +127,8 @@ private slots:
             QVERIFY2(database.write({minute}, {}, {}, kStoredMinute + 60), qPrintable(database.error()));
         }
         const QByteArray storedBefore = contents(work.filePath(faulted == u"data" ? databaseFile : preferencesFile));
-        QVERIFY(QDir(work.path()).mkpath(QStringLiteral("runtime")));
+        for (const QString &folder : {QStringLiteral("runtime"), QStringLiteral("config")})
+            QVERIFY(QDir(work.path()).mkpath(folder));
 
         QStringList arguments = command.split(u' ');
         arguments.first() = arguments.first() == u"ferrow" ? QStringLiteral(FERROW_APP_PATH) : QStringLiteral(FERROW_CLI_PATH);
@@ -156,7 +162,10 @@ private slots:
 
         // What was stored on the faulty disk is there byte for byte, and reads back.
         const QString left = work.filePath(QStringLiteral("after/") + (faulted == u"data" ? databaseFile : preferencesFile).section(u'/', 1));
+        QCOMPARE(QFile::exists(left), stored);
         QCOMPARE(contents(left), storedBefore);
+        if (!stored)
+            return;
         if (faulted == u"config") {
             QSettings settings(left, QSettings::IniFormat);
             QCOMPARE(readPreferences(settings), m_chosen);

@@ -3,6 +3,7 @@
 #include "model/private_file.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
 
@@ -17,11 +18,14 @@ bool savePreferences(QSettings &settings)
 #else
     const bool ownFile = true;
 #endif
+    const bool existed = QFileInfo::exists(settings.fileName());
     if (ownFile)
         keepPrivate(settings.fileName());
     settings.sync();
     if (settings.status() == QSettings::NoError)
         return true;
+    if (ownFile && !existed && QFileInfo(settings.fileName()).size() == 0)
+        QFile::remove(settings.fileName()); // no empty file where nothing was stored before
     // Said once a run: the values wait in memory and every later save tries again.
     static std::atomic_flag said;
     if (!said.test_and_set()) {
