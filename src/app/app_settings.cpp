@@ -1,5 +1,7 @@
 #include "app/app_settings.h"
 
+#include "platform/common/settings_key_value_store.h"
+
 #include <QCoreApplication>
 
 #include <array>
@@ -51,7 +53,7 @@ Preferences readPreferences(const QSettings &settings)
     return preferences;
 }
 
-void writePreferences(QSettings &settings, const Preferences &preferences)
+bool writePreferences(QSettings &settings, const Preferences &preferences)
 {
     settings.setValue(PreferenceKey::showPowerInMenuBar, preferences.showPowerInMenuBar);
     settings.setValue(PreferenceKey::reduceMotion, preferences.reduceMotion);
@@ -60,6 +62,7 @@ void writePreferences(QSettings &settings, const Preferences &preferences)
         if (value == preferences.appearance)
             settings.setValue(PreferenceKey::appearance, name.toString());
     }
+    return savePreferences(settings);
 }
 
 } // namespace ferrow

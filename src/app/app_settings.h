@@ -28,7 +28,8 @@ inline const QString keepHistory = QStringLiteral("keepHistory");
 // Values someone else wrote into the file are read defensively: anything that is not clearly of
 // the preference's type gives its default.
 Preferences readPreferences(const QSettings &settings);
-void writePreferences(QSettings &settings, const Preferences &preferences);
+// Saves at once; false when the file cannot be written (said once on stderr, see savePreferences).
+bool writePreferences(QSettings &settings, const Preferences &preferences);
 
 // The names preferences are stored under (the defaults domain app.ferrow.Ferrow on macOS,
 // ~/.config/Ferrow/Ferrow.conf on Linux): the application and ferrow-cli share them, so both

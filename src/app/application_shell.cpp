@@ -23,6 +23,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStyleHints>
+#include <QTextStream>
 #include <QVBoxLayout>
 
 namespace ferrow {
@@ -133,7 +134,12 @@ void ApplicationShell::startHistory(bool keep)
         if (m_mainWindow)
             m_mainWindow->setHistoryOverview(overview);
     });
-    connect(m_history.get(), &HistoryRecorder::errorChanged, this, &ApplicationShell::requestHistoryOverview);
+    connect(m_history.get(), &HistoryRecorder::errorChanged, this, [this] {
+        // A database stops at its first failure, so this is said once; the details window keeps saying it.
+        if (const QString error = m_history->error(); !error.isEmpty())
+            QTextStream(stderr) << "ferrow: history is not being kept: " << QString(error).replace(u'\n', u' ') << Qt::endl;
+        requestHistoryOverview();
+    });
 }
 
 void ApplicationShell::requestHistoryOverview()

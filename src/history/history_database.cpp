@@ -1,11 +1,12 @@
 #include "history/history_database.h"
 
+#include "model/private_file.h"
+
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QUrl>
 #include <QUuid>
 #include <QVariant>
 
@@ -17,6 +18,15 @@ namespace ferrow {
 namespace {
 
 constexpr int kBusyTimeoutMs = 2000;
+
+std::optional<int> schemaVersion(const QSqlDatabase &db, QString *why)
+{
+    QSqlQuery query(db);
+    if (query.exec(QStringLiteral("PRAGMA user_version")) && query.next())
+        return query.value(0).toInt();
+    *why = query.lastError().text();
+    return std::nullopt;
+}
 
 // The columns minutes and hours share, in the order the records bind them.
 const char *const kEnergyColumns[] = {"adapter_wh", "system_wh", "battery_in_wh", "battery_out_wh",
@@ -155,39 +165,48 @@ HistoryDatabase::HistoryDatabase(const QString &path, Mode mode)
         fail(QStringLiteral("cannot read %1").arg(path), QStringLiteral("permission denied; the file is left as it is"));
         return;
     }
-    if (mode == Mode::readWrite && !file.exists()) {
-        // Only this user may read what the machine did and when.
-        if (!QDir().mkpath(file.absolutePath())) {
-            fail(QStringLiteral("cannot create %1").arg(file.absolutePath()), QStringLiteral("the folder cannot be made"));
-            return;
-        }
-        QFile::setPermissions(file.absolutePath(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    // Only this user may read what the machine did and when.
+    if (QString why; mode == Mode::readWrite && !keepPrivate(path, &why)) {
+        fail(QStringLiteral("cannot create %1").arg(path), why);
+        return;
     }
     QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
     if (!db.isValid()) {
         fail(QStringLiteral("no SQLite driver"), QStringLiteral("Qt's QSQLITE plugin is not installed"));
         return;
     }
+    const QString options = QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1%2")
+                                .arg(kBusyTimeoutMs)
+                                .arg(mode == Mode::readOnly ? QStringLiteral(";QSQLITE_OPEN_READONLY") : QString());
     db.setDatabaseName(path);
-    db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1%2")
-                             .arg(kBusyTimeoutMs)
-                             .arg(mode == Mode::readOnly ? QStringLiteral(";QSQLITE_OPEN_READONLY") : QString()));
+    db.setConnectOptions(options);
     if (!db.open()) {
         fail(QStringLiteral("cannot open %1").arg(path), db.lastError().text());
         return;
     }
     if (mode == Mode::readWrite) {
-        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
         prepareSchema();
         return;
     }
-    QSqlQuery version(db);
-    if (!version.exec(QStringLiteral("PRAGMA user_version")) || !version.next()) {
-        fail(QStringLiteral("cannot read %1").arg(path), version.lastError().text());
+    QString why;
+    std::optional<int> version = schemaVersion(db, &why);
+    // SQLite reads a log through an index file beside it, which a full or read-only disk has no
+    // room for. With no log there is nothing to index: the file alone holds the whole history.
+    if (!version && QFileInfo(path + QStringLiteral("-wal")).size() == 0) {
+        db.close();
+        QUrl unchanging = QUrl::fromLocalFile(file.absoluteFilePath());
+        unchanging.setQuery(QStringLiteral("immutable=1"));
+        db.setDatabaseName(unchanging.toString(QUrl::FullyEncoded));
+        db.setConnectOptions(options + QStringLiteral(";QSQLITE_OPEN_URI"));
+        if (db.open())
+            version = schemaVersion(db, &why);
+    }
+    if (!version) {
+        fail(QStringLiteral("cannot read %1").arg(path), why);
         return;
     }
-    if (version.value(0).toInt() > kSchemaVersion)
-        fail(QStringLiteral("%1 was written by a newer Ferrow").arg(path), QStringLiteral("schema %1; this one reads up to %2").arg(version.value(0).toInt()).arg(kSchemaVersion));
+    if (*version > kSchemaVersion)
+        fail(QStringLiteral("%1 was written by a newer Ferrow").arg(path), QStringLiteral("schema %1; this one reads up to %2").arg(*version).arg(kSchemaVersion));
 }
 
 HistoryDatabase::~HistoryDatabase()
@@ -200,8 +219,12 @@ HistoryDatabase::~HistoryDatabase()
 
 bool HistoryDatabase::fail(const QString &what, const QString &why)
 {
-    if (m_error.isEmpty())
-        m_error = why.isEmpty() ? what : what + QStringLiteral(": ") + why;
+    if (!m_error.isEmpty())
+        return false;
+    m_error = why.isEmpty() ? what : what + QStringLiteral(": ") + why;
+    // SQLite's words for a full disk ("disk I/O error" among them) do not always say so.
+    if (const QString trouble = diskTrouble(m_path); !trouble.isEmpty())
+        m_error += QStringLiteral(" (%1)").arg(trouble);
     return false;
 }
 

@@ -27,7 +27,8 @@ struct PeriodEnergy {
 
 // The history in one SQLite file: minutes for 30 days, hours after that, the sessions and each
 // battery's daily condition. One object per thread; it never deletes or rewrites a file it cannot
-// read, and after any failure it says why in error() and takes no more writes.
+// read, and after any failure it says why in error() (naming a full or read-only disk) and takes
+// no more writes. Read-only, it reads a file on such a disk too.
 class HistoryDatabase {
 public:
     static constexpr int kSchemaVersion = 1;

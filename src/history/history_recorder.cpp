@@ -1,5 +1,6 @@
 #include "history/history_recorder.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -102,7 +103,8 @@ HistoryRecorder::~HistoryRecorder()
 {
     if (!m_worker)
         return;
-    waitForWrites(); // quitting the thread's loop would drop writes still queued
+    // Quitting the thread's loop would drop writes still queued.
+    QMetaObject::invokeMethod(m_worker, [] {}, Qt::BlockingQueuedConnection);
     m_thread.quit();
     m_thread.wait();
 }
@@ -162,8 +164,11 @@ void HistoryRecorder::write(std::vector<MinuteRecord> minutes, std::optional<Ses
 
 void HistoryRecorder::waitForWrites()
 {
-    if (m_worker)
-        QMetaObject::invokeMethod(m_worker, [] {}, Qt::BlockingQueuedConnection);
+    if (!m_worker)
+        return;
+    QMetaObject::invokeMethod(m_worker, [] {}, Qt::BlockingQueuedConnection);
+    // Their outcome is queued for this thread, whose event loop may have ended already (at quit).
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
 }
 
 void HistoryRecorder::requestOverview(UnixSeconds now)

@@ -42,7 +42,8 @@ public:
     void record(const PowerSnapshot &reading);
     // Commits the minute so far (before sleep and quit).
     void flush();
-    // Waits until every write handed to the worker is committed.
+    // Waits until every write handed to the worker is committed, and takes what they reported:
+    // error() is up to date (and errorChanged emitted) on return.
     void waitForWrites();
 
     const std::optional<SessionRecord> &currentSession() const { return m_sessions.current(); }

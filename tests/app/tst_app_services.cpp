@@ -141,8 +141,9 @@ private slots:
         // What one program writes, the other reads back as it was.
         QSettings writer(file, QSettings::IniFormat);
         const Preferences chosen{!read, true, Appearance::dark};
-        writePreferences(writer, chosen);
+        QVERIFY(writePreferences(writer, chosen));
         QCOMPARE(readPreferences(writer), chosen);
+        QCOMPARE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions()); // the user's alone
     }
 };
 

@@ -1,6 +1,40 @@
 #include "platform/common/settings_key_value_store.h"
 
+#include "model/private_file.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QTextStream>
+
+#include <atomic>
+
 namespace ferrow {
+
+bool savePreferences(QSettings &settings)
+{
+#ifdef Q_OS_DARWIN
+    const bool ownFile = settings.format() == QSettings::IniFormat; // not the system's defaults database
+#else
+    const bool ownFile = true;
+#endif
+    const bool existed = QFileInfo::exists(settings.fileName());
+    if (ownFile)
+        keepPrivate(settings.fileName());
+    settings.sync();
+    if (settings.status() == QSettings::NoError)
+        return true;
+    if (ownFile && !existed && QFileInfo(settings.fileName()).size() == 0)
+        QFile::remove(settings.fileName()); // no empty file where nothing was stored before
+    // Said once a run: the values wait in memory and every later save tries again.
+    static std::atomic_flag said;
+    if (!said.test_and_set()) {
+        const QString trouble = diskTrouble(settings.fileName());
+        QTextStream(stderr) << QFileInfo(QCoreApplication::applicationFilePath()).fileName() << ": cannot save preferences to "
+                            << settings.fileName() << (trouble.isEmpty() ? QString() : QStringLiteral(": ") + trouble) << Qt::endl;
+    }
+    return false;
+}
 
 SettingsKeyValueStore::SettingsKeyValueStore(const QString &fileName, QSettings::Format format)
     : m_file(std::pair(fileName, format))
@@ -45,12 +79,13 @@ void SettingsKeyValueStore::flush()
 {
     if (m_unwritten.empty())
         return;
-    withSettings([&](QSettings &settings) {
+    const bool saved = withSettings([&](QSettings &settings) {
         for (const auto &[key, data] : m_unwritten)
             settings.setValue(key, data);
-        settings.sync();
+        return savePreferences(settings);
     });
-    m_unwritten.clear();
+    if (saved)
+        m_unwritten.clear();
 }
 
 } // namespace ferrow

@@ -16,7 +16,7 @@ namespace ferrow {
 // worker, and a QSettings object belongs to the thread that uses it, so each call makes its own
 // (QSettings is reentrant; objects on several threads may share one file). A record that changes
 // every second must not rewrite the file every second: values wait in memory until flush() (before
-// sleep and quit) or until the store goes away.
+// sleep and quit) or until the store goes away, and stay there while the file cannot be written.
 class SettingsKeyValueStore final : public KeyValueStore {
 public:
     // The application's own preferences (organisation and application names must be set).
@@ -38,5 +38,9 @@ private:
     std::optional<std::pair<QString, QSettings::Format>> m_file;
     std::map<QString, QByteArray> m_unwritten;
 };
+
+// Writes what was set in settings to its file, which only its owner may read. A failure leaves the
+// file as it was and the values in settings for the next try, and is said once a run on stderr.
+bool savePreferences(QSettings &settings);
 
 } // namespace ferrow
