@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <tuple>
+
 namespace ferrow {
 
 namespace {
@@ -28,6 +30,8 @@ BatteryStatusView::BatteryStatusView(QWidget *parent)
 
 void BatteryStatusView::setSessionText(const QString &text)
 {
+    if (text == m_sessionText)
+        return;
     m_sessionText = text;
     fitHeight();
     update();
@@ -68,6 +72,14 @@ void paintCompactMetric(QPainter &painter, const QRectF &rect, const QString &la
     drawFittedText(painter, QRectF(rect.left(), rect.top(), rect.width(), 11), label, uiFont(8), 1.0, Qt::AlignLeft);
     painter.setPen(color);
     drawFittedText(painter, QRectF(rect.left(), rect.top() + 13, rect.width(), 11), value, monospacedFont(8), 0.75, Qt::AlignLeft);
+}
+
+bool BatteryStatusView::paintsDifferently(const PowerSnapshot &shown, const PowerSnapshot &next) const
+{
+    const auto figures = [](const PowerSnapshot &s) {
+        return std::tuple(s.hasBattery, s.batteryPercent, s.timeToFullText(), batteryHealthText(s), batteryTemperatureText(s.batteryTemperatureC));
+    };
+    return figures(shown) != figures(next);
 }
 
 void BatteryStatusView::paintEvent(QPaintEvent *)

@@ -20,6 +20,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    bool paintsDifferently(const PowerSnapshot &shown, const PowerSnapshot &next) const override;
 
 private:
     void fitHeight();

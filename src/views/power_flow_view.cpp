@@ -59,10 +59,11 @@ PowerFlowView::PowerFlowView(QWidget *parent)
     setFixedHeight(24 + kRowHeight + 16);
     // The static layer carries the panel's ground, so nothing under this view needs repainting.
     setAttribute(Qt::WA_OpaquePaintEvent);
-    // 15 frames a second: dots crossing the connector in 1.55 s move about 5 points a frame, less
-    // than half their halo, which still reads as smooth motion. Each frame costs a wake-up and a
-    // flush to the window system far more than its painting, so the rate is the cost.
-    m_frameTimer.setInterval(66);
+    // 12 frames a second: dots crossing the connector in 1.55 s move about 6 points a frame, about
+    // half their halo, the largest step that still reads as gliding rather than hopping. Each
+    // frame costs a wake-up and a flush to the window system far more than its painting, so the
+    // rate is the cost.
+    m_frameTimer.setInterval(83);
     m_frameTimer.setTimerType(Qt::CoarseTimer);
     connect(&m_frameTimer, &QTimer::timeout, this, &PowerFlowView::animationTick);
 }

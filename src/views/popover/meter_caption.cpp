@@ -13,6 +13,11 @@ MeterCaption::MeterCaption(QWidget *parent)
     setFixedHeight(17);
 }
 
+bool MeterCaption::paintsDifferently(const PowerSnapshot &shown, const PowerSnapshot &next) const
+{
+    return meterCaption(shown) != meterCaption(next);
+}
+
 void MeterCaption::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

@@ -11,6 +11,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    bool paintsDifferently(const PowerSnapshot &shown, const PowerSnapshot &next) const override;
 };
 
 } // namespace ferrow

@@ -36,6 +36,12 @@ void PopoverHeader::setReduceMotion(bool reduceMotion)
     m_logo->setReduceMotion(reduceMotion);
 }
 
+bool PopoverHeader::paintsDifferently(const PowerSnapshot &shown, const PowerSnapshot &next) const
+{
+    const StatusIndicator before = statusIndicator(shown), after = statusIndicator(next);
+    return before.text != after.text || before.dotColor != after.dotColor;
+}
+
 void PopoverHeader::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
