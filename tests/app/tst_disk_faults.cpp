@@ -1,5 +1,6 @@
 #include "app/app_settings.h"
 #include "history/history_database.h"
+#include "support/private_home.h"
 
 #include <QDir>
 #include <QProcess>
@@ -10,6 +11,7 @@
 #include <QTest>
 
 using namespace ferrow;
+using namespace ferrow::testing;
 
 namespace {
 
@@ -127,8 +129,7 @@ private slots:
             QVERIFY2(database.write({minute}, {}, {}, kStoredMinute + 60), qPrintable(database.error()));
         }
         const QByteArray storedBefore = contents(work.filePath(faulted == u"data" ? databaseFile : preferencesFile));
-        for (const QString &folder : {QStringLiteral("runtime"), QStringLiteral("config")})
-            QVERIFY(QDir(work.path()).mkpath(folder));
+        QVERIFY(QDir(work.path()).mkpath(QStringLiteral("config")));
 
         QStringList arguments = command.split(u' ');
         arguments.first() = arguments.first() == u"ferrow" ? QStringLiteral(FERROW_APP_PATH) : QStringLiteral(FERROW_CLI_PATH);
@@ -140,12 +141,7 @@ private slots:
         environment.insert(QStringLiteral("CONDITION"), condition);
         environment.insert(QStringLiteral("ALIVE_S"), QString::number(kAliveSeconds));
         environment.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
-        environment.insert(QStringLiteral("HOME"), work.path());
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen")); // windows, not the terminal view
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), work.filePath(QStringLiteral("config")));
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), work.filePath(QStringLiteral("data")));
-        environment.insert(QStringLiteral("XDG_CACHE_HOME"), work.filePath(QStringLiteral("cache")));
-        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), work.filePath(QStringLiteral("runtime")));
+        usePrivateHome(environment, QDir(work.path()));
         QProcess run;
         run.setProcessEnvironment(environment);
         run.start(QStringLiteral("unshare"),

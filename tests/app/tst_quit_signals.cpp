@@ -1,5 +1,6 @@
 #include "app/app_settings.h"
 #include "history/history_database.h"
+#include "support/private_home.h"
 
 #include <QDir>
 #include <QProcess>
@@ -16,6 +17,7 @@
 #include <optional>
 
 using namespace ferrow;
+using namespace ferrow::testing;
 
 namespace {
 
@@ -135,14 +137,7 @@ private slots:
         m_seed = qEnvironmentVariableIsSet("FERROW_TEST_SEED") ? static_cast<quint32>(qEnvironmentVariableIntValue("FERROW_TEST_SEED"))
                                                                : QRandomGenerator::system()->generate();
         qInfo("FERROW_TEST_SEED=%u repeats this run", m_seed);
-        m_environment.insert(QStringLiteral("HOME"), m_home.path());
-        m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen")); // windows, not the terminal view
-        m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.filePath(QStringLiteral("config")));
-        m_environment.insert(QStringLiteral("XDG_DATA_HOME"), m_home.filePath(QStringLiteral("data")));
-        m_environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_home.filePath(QStringLiteral("cache")));
-        m_environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_home.filePath(QStringLiteral("runtime")));
-        QVERIFY(QDir(m_home.path()).mkpath(QStringLiteral("runtime")));
-        QFile::setPermissions(m_home.filePath(QStringLiteral("runtime")), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        usePrivateHome(m_environment, QDir(m_home.path()));
         QSettings settings(preferencesPath(), QSettings::IniFormat);
         QVERIFY(writePreferences(settings, m_chosen));
     }
