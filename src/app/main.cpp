@@ -7,8 +7,10 @@
 #include "app/text_table.h"
 #include "platform/native_desktop.h"
 #include "platform/native_machine.h"
+#include "views/accessible_content.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QTextStream>
 
 
@@ -22,15 +24,34 @@ void nameApplication()
     QCoreApplication::setApplicationVersion(QStringLiteral(FERROW_VERSION));
 }
 
+// The machine --source names, as ferrow-cli takes it: this one unless told otherwise (a recording
+// for a demonstration or a test). Options the system adds when it starts an application are left alone.
+std::optional<MachineSource> chosenSource(const QCoreApplication &application)
+{
+    QCommandLineParser parser;
+    const QCommandLineOption sourceOption(QStringLiteral("source"),
+                                          QStringLiteral("Machine to read: simulated, simulated-desktop, recorded:PATH, sysfs:ROOT or auto."),
+                                          QStringLiteral("source"), QStringLiteral("auto"));
+    parser.addOption(sourceOption);
+    parser.parse(application.arguments());
+    const std::optional<MachineSource> source = MachineSource::parse(parser.value(sourceOption));
+    if (!source)
+        QTextStream(stderr) << "ferrow: unknown source '" << parser.value(sourceOption) << "'" << Qt::endl;
+    return source;
+}
+
 // Without a display there is nothing to show a window on: read the same machine in the terminal.
 int runHeadless(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     nameApplication();
     installTextTable(application);
+    const std::optional<MachineSource> source = chosenSource(application);
+    if (!source)
+        return 2;
     QTextStream out(stdout);
     QString error;
-    std::optional<OpenedMachine> machine = openMachine(MachineSource{}, &error);
+    std::optional<OpenedMachine> machine = openMachine(*source, &error);
     if (!machine) {
         QTextStream(stderr) << "ferrow: " << error << Qt::endl;
         return 1;
@@ -55,9 +76,13 @@ int main(int argc, char *argv[])
     prepareApplication();
     installTextTable(application);
     registerBrandFonts();
+    installViewAccessibility();
 
+    const std::optional<MachineSource> source = chosenSource(application);
+    if (!source)
+        return 2;
     QString error;
-    std::optional<OpenedMachine> machine = openMachine(MachineSource{}, &error);
+    std::optional<OpenedMachine> machine = openMachine(*source, &error);
     if (!machine) {
         QTextStream(stderr) << "ferrow: " << error << Qt::endl;
         return 1;
