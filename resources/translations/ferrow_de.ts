@@ -603,5 +603,67 @@
         <source>Delete history</source>
         <translation>Verlauf löschen</translation>
     </message>
+    <message id="accessibility.not_available">
+        <source>not available</source>
+        <translation>nicht verfügbar</translation>
+    </message>
+    <message id="accessibility.reading">
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="accessibility.note">
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message id="accessibility.watts">
+        <source>%1 watts</source>
+        <translation>%1 Watt</translation>
+    </message>
+    <message id="accessibility.volts">
+        <source>%1 volts</source>
+        <translation>%1 Volt</translation>
+    </message>
+    <message id="accessibility.amperes">
+        <source>%1 amperes</source>
+        <translation>%1 Ampere</translation>
+    </message>
+    <message id="accessibility.degrees_celsius">
+        <source>%1 degrees Celsius</source>
+        <translation>%1 Grad Celsius</translation>
+    </message>
+    <message id="accessibility.milliampere_hours" numerus="yes">
+        <source>%Ln mAh</source>
+        <translation>
+            <numerusform>%Ln Milliamperestunde</numerusform>
+            <numerusform>%Ln Milliamperestunden</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.hertz" numerus="yes">
+        <source>%Ln Hz</source>
+        <translation>
+            <numerusform>%Ln Hertz</numerusform>
+            <numerusform>%Ln Hertz</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.cell">
+        <source>Cell %L1</source>
+        <translation>Zelle %L1</translation>
+    </message>
+    <message id="accessibility.flow_adapter">
+        <source>Adapter %1 to system %2</source>
+        <translation>Netzteil %1 an System %2</translation>
+    </message>
+    <message id="accessibility.flow_battery">
+        <source>Battery %1 to system %2</source>
+        <translation>Akku %1 an System %2</translation>
+    </message>
+    <message id="accessibility.flow_charging">
+        <source>Adapter %1 to system %2 and battery %3</source>
+        <translation>Netzteil %1 an System %2 und Akku %3</translation>
+    </message>
+    <message id="accessibility.flow_discharging">
+        <source>Adapter %1 and battery %2 to system %3</source>
+        <translation>Netzteil %1 und Akku %2 an System %3</translation>
+    </message>
 </context>
 </TS>

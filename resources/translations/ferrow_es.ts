@@ -603,5 +603,67 @@
         <source>Delete history</source>
         <translation>Eliminar historial</translation>
     </message>
+    <message id="accessibility.not_available">
+        <source>not available</source>
+        <translation>no disponible</translation>
+    </message>
+    <message id="accessibility.reading">
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="accessibility.note">
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message id="accessibility.watts">
+        <source>%1 watts</source>
+        <translation>%1 vatios</translation>
+    </message>
+    <message id="accessibility.volts">
+        <source>%1 volts</source>
+        <translation>%1 voltios</translation>
+    </message>
+    <message id="accessibility.amperes">
+        <source>%1 amperes</source>
+        <translation>%1 amperios</translation>
+    </message>
+    <message id="accessibility.degrees_celsius">
+        <source>%1 degrees Celsius</source>
+        <translation>%1 grados Celsius</translation>
+    </message>
+    <message id="accessibility.milliampere_hours" numerus="yes">
+        <source>%Ln mAh</source>
+        <translation>
+            <numerusform>%Ln miliamperio hora</numerusform>
+            <numerusform>%Ln miliamperios hora</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.hertz" numerus="yes">
+        <source>%Ln Hz</source>
+        <translation>
+            <numerusform>%Ln hercio</numerusform>
+            <numerusform>%Ln hercios</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.cell">
+        <source>Cell %L1</source>
+        <translation>Celda %L1</translation>
+    </message>
+    <message id="accessibility.flow_adapter">
+        <source>Adapter %1 to system %2</source>
+        <translation>Adaptador %1 al sistema %2</translation>
+    </message>
+    <message id="accessibility.flow_battery">
+        <source>Battery %1 to system %2</source>
+        <translation>Batería %1 al sistema %2</translation>
+    </message>
+    <message id="accessibility.flow_charging">
+        <source>Adapter %1 to system %2 and battery %3</source>
+        <translation>Adaptador %1 al sistema %2 y a la batería %3</translation>
+    </message>
+    <message id="accessibility.flow_discharging">
+        <source>Adapter %1 and battery %2 to system %3</source>
+        <translation>Adaptador %1 y batería %2 al sistema %3</translation>
+    </message>
 </context>
 </TS>

@@ -603,5 +603,67 @@
         <source>Delete history</source>
         <translation>Supprimer l’historique</translation>
     </message>
+    <message id="accessibility.not_available">
+        <source>not available</source>
+        <translation>non disponible</translation>
+    </message>
+    <message id="accessibility.reading">
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="accessibility.note">
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message id="accessibility.watts">
+        <source>%1 watts</source>
+        <translation>%1 watts</translation>
+    </message>
+    <message id="accessibility.volts">
+        <source>%1 volts</source>
+        <translation>%1 volts</translation>
+    </message>
+    <message id="accessibility.amperes">
+        <source>%1 amperes</source>
+        <translation>%1 ampères</translation>
+    </message>
+    <message id="accessibility.degrees_celsius">
+        <source>%1 degrees Celsius</source>
+        <translation>%1 degrés Celsius</translation>
+    </message>
+    <message id="accessibility.milliampere_hours" numerus="yes">
+        <source>%Ln mAh</source>
+        <translation>
+            <numerusform>%Ln milliampère-heure</numerusform>
+            <numerusform>%Ln milliampères-heures</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.hertz" numerus="yes">
+        <source>%Ln Hz</source>
+        <translation>
+            <numerusform>%Ln hertz</numerusform>
+            <numerusform>%Ln hertz</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.cell">
+        <source>Cell %L1</source>
+        <translation>Cellule %L1</translation>
+    </message>
+    <message id="accessibility.flow_adapter">
+        <source>Adapter %1 to system %2</source>
+        <translation>Adaptateur %1 vers le système %2</translation>
+    </message>
+    <message id="accessibility.flow_battery">
+        <source>Battery %1 to system %2</source>
+        <translation>Batterie %1 vers le système %2</translation>
+    </message>
+    <message id="accessibility.flow_charging">
+        <source>Adapter %1 to system %2 and battery %3</source>
+        <translation>Adaptateur %1 vers le système %2 et la batterie %3</translation>
+    </message>
+    <message id="accessibility.flow_discharging">
+        <source>Adapter %1 and battery %2 to system %3</source>
+        <translation>Adaptateur %1 et batterie %2 vers le système %3</translation>
+    </message>
 </context>
 </TS>

@@ -603,5 +603,67 @@
         <source>Delete history</source>
         <translation>Elimina cronologia</translation>
     </message>
+    <message id="accessibility.not_available">
+        <source>not available</source>
+        <translation>non disponibile</translation>
+    </message>
+    <message id="accessibility.reading">
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="accessibility.note">
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message id="accessibility.watts">
+        <source>%1 watts</source>
+        <translation>%1 watt</translation>
+    </message>
+    <message id="accessibility.volts">
+        <source>%1 volts</source>
+        <translation>%1 volt</translation>
+    </message>
+    <message id="accessibility.amperes">
+        <source>%1 amperes</source>
+        <translation>%1 ampere</translation>
+    </message>
+    <message id="accessibility.degrees_celsius">
+        <source>%1 degrees Celsius</source>
+        <translation>%1 gradi Celsius</translation>
+    </message>
+    <message id="accessibility.milliampere_hours" numerus="yes">
+        <source>%Ln mAh</source>
+        <translation>
+            <numerusform>%Ln milliampere-ora</numerusform>
+            <numerusform>%Ln milliampere-ora</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.hertz" numerus="yes">
+        <source>%Ln Hz</source>
+        <translation>
+            <numerusform>%Ln hertz</numerusform>
+            <numerusform>%Ln hertz</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.cell">
+        <source>Cell %L1</source>
+        <translation>Cella %L1</translation>
+    </message>
+    <message id="accessibility.flow_adapter">
+        <source>Adapter %1 to system %2</source>
+        <translation>Alimentatore %1 al sistema %2</translation>
+    </message>
+    <message id="accessibility.flow_battery">
+        <source>Battery %1 to system %2</source>
+        <translation>Batteria %1 al sistema %2</translation>
+    </message>
+    <message id="accessibility.flow_charging">
+        <source>Adapter %1 to system %2 and battery %3</source>
+        <translation>Alimentatore %1 al sistema %2 e alla batteria %3</translation>
+    </message>
+    <message id="accessibility.flow_discharging">
+        <source>Adapter %1 and battery %2 to system %3</source>
+        <translation>Alimentatore %1 e batteria %2 al sistema %3</translation>
+    </message>
 </context>
 </TS>

@@ -599,5 +599,65 @@
         <source>Delete history</source>
         <translation>履歴を削除</translation>
     </message>
+    <message id="accessibility.not_available">
+        <source>not available</source>
+        <translation>利用できません</translation>
+    </message>
+    <message id="accessibility.reading">
+        <source>%1, %2</source>
+        <translation>%1、%2</translation>
+    </message>
+    <message id="accessibility.note">
+        <source>%1. %2</source>
+        <translation>%1。%2</translation>
+    </message>
+    <message id="accessibility.watts">
+        <source>%1 watts</source>
+        <translation>%1 ワット</translation>
+    </message>
+    <message id="accessibility.volts">
+        <source>%1 volts</source>
+        <translation>%1 ボルト</translation>
+    </message>
+    <message id="accessibility.amperes">
+        <source>%1 amperes</source>
+        <translation>%1 アンペア</translation>
+    </message>
+    <message id="accessibility.degrees_celsius">
+        <source>%1 degrees Celsius</source>
+        <translation>摂氏 %1 度</translation>
+    </message>
+    <message id="accessibility.milliampere_hours" numerus="yes">
+        <source>%Ln mAh</source>
+        <translation>
+            <numerusform>%Ln ミリアンペア時</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.hertz" numerus="yes">
+        <source>%Ln Hz</source>
+        <translation>
+            <numerusform>%Ln ヘルツ</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.cell">
+        <source>Cell %L1</source>
+        <translation>セル %L1</translation>
+    </message>
+    <message id="accessibility.flow_adapter">
+        <source>Adapter %1 to system %2</source>
+        <translation>アダプタ %1 からシステム %2 へ</translation>
+    </message>
+    <message id="accessibility.flow_battery">
+        <source>Battery %1 to system %2</source>
+        <translation>バッテリー %1 からシステム %2 へ</translation>
+    </message>
+    <message id="accessibility.flow_charging">
+        <source>Adapter %1 to system %2 and battery %3</source>
+        <translation>アダプタ %1 からシステム %2 とバッテリー %3 へ</translation>
+    </message>
+    <message id="accessibility.flow_discharging">
+        <source>Adapter %1 and battery %2 to system %3</source>
+        <translation>アダプタ %1 とバッテリー %2 からシステム %3 へ</translation>
+    </message>
 </context>
 </TS>

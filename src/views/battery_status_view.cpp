@@ -1,6 +1,7 @@
 #include "views/battery_status_view.h"
 
 #include "model/localized_text.h"
+#include "views/accessibility_model.h"
 #include "views/battery_status_model.h"
 #include "views/glyphs.h"
 #include "views/view_painting.h"
@@ -72,6 +73,23 @@ void paintCompactMetric(QPainter &painter, const QRectF &rect, const QString &la
     drawFittedText(painter, QRectF(rect.left(), rect.top(), rect.width(), 11), label, uiFont(8), 1.0, Qt::AlignLeft);
     painter.setPen(color);
     drawFittedText(painter, QRectF(rect.left(), rect.top() + 13, rect.width(), 11), value, monospacedFont(8), 0.75, Qt::AlignLeft);
+}
+
+std::vector<AccessibleItem> BatteryStatusView::accessibleParts() const
+{
+    const PowerSnapshot &s = snapshot();
+    if (!s.hasBattery)
+        return {{QAccessible::StaticText, spokenNote(localizedText("battery.not_detected"), localizedText("battery.desktop_description")), {}}};
+    std::vector<AccessibleItem> parts = {
+        {QAccessible::Heading, localizedText("battery.status"), {}},
+        {QAccessible::StaticText, spokenReading(localizedText("battery.pack_charge"), QStringLiteral("%1%").arg(s.batteryPercent)), {}},
+        {QAccessible::StaticText, spokenReading(localizedText("battery.estimated_full"), s.timeToFullText()), {}},
+        {QAccessible::StaticText, spokenReading(localizedText("battery.health"), batteryHealthText(s)), {}},
+        {QAccessible::StaticText, spokenReading(localizedText("battery.temperature"), batteryTemperatureText(s.batteryTemperatureC)), {}},
+    };
+    if (!m_sessionText.isEmpty())
+        parts.push_back({QAccessible::StaticText, m_sessionText, {}});
+    return parts;
 }
 
 bool BatteryStatusView::paintsDifferently(const PowerSnapshot &shown, const PowerSnapshot &next) const

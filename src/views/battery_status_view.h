@@ -1,5 +1,6 @@
 #pragma once
 
+#include "views/accessible_content.h"
 #include "views/snapshot_view.h"
 
 #include <QColor>
@@ -10,10 +11,11 @@ namespace ferrow {
 
 // The popover's battery card: state, charge, a ten-segment gauge and three compact figures, or
 // a notice on machines without a battery.
-class BatteryStatusView : public SnapshotView {
+class BatteryStatusView : public SnapshotView, public AccessibleContent {
 public:
     explicit BatteryStatusView(QWidget *parent = nullptr);
     QSize sizeHint() const override { return {414, height()}; }
+    std::vector<AccessibleItem> accessibleParts() const override;
     // A line under the figures about the current session; empty takes it away.
     void setSessionText(const QString &text);
     const QString &sessionText() const { return m_sessionText; }

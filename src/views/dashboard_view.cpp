@@ -1,6 +1,7 @@
 #include "views/dashboard_view.h"
 
 #include "model/value_text.h"
+#include "views/accessibility_model.h"
 #include "views/battery_status_view.h"
 #include "views/divider.h"
 #include "views/history_model.h"
@@ -82,7 +83,10 @@ DashboardView::DashboardView(QWidget *parent)
 
 void DashboardView::setSnapshot(const PowerSnapshot &s)
 {
+    const bool announced = isAnnouncedChange(m_header->snapshot(), s);
     m_header->setSnapshot(s);
+    if (announced)
+        m_header->announceStatus();
     m_meters->setSnapshot(s);
     m_meterCaption->setSnapshot(s);
     m_flow->setSnapshot(s);

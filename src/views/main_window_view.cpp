@@ -2,6 +2,7 @@
 
 #include "model/localized_text.h"
 #include "model/value_text.h"
+#include "views/accessible_content.h"
 #include "views/dashboard_model.h"
 #include "views/glyphs.h"
 #include "views/meter_row.h"
@@ -128,6 +129,7 @@ void MainWindowView::buildToolbar()
     toolbar->addWidget(titles);
     auto *spring = new QWidget;
     spring->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    hideFromAccessibility(spring);
     toolbar->addWidget(spring);
     auto *refresh = new QToolButton;
     refresh->setObjectName(QStringLiteral("refresh"));
@@ -217,6 +219,7 @@ QWidget *MainWindowView::buildDetail()
     // Room after the last section, so that every section can be scrolled to the top.
     m_endSpacer = new QWidget;
     m_endSpacer->setAttribute(Qt::WA_TransparentForMouseEvents);
+    hideFromAccessibility(m_endSpacer);
     column->addWidget(m_endSpacer);
     column->addStretch();
     m_scroll->setWidget(page);

@@ -25,7 +25,6 @@ MeterCard::MeterCard(QString code, QString unit, QColor color, Size size, QWidge
 {
     setFixedHeight(static_cast<int>(m_metrics.height));
     setMinimumWidth(90);
-    setAccessibleName(meterAccessibleText(m_code, m_value, m_unit));
 }
 
 void MeterCard::setValue(std::optional<double> value)
@@ -33,8 +32,12 @@ void MeterCard::setValue(std::optional<double> value)
     if (value == m_value)
         return;
     m_value = value;
-    setAccessibleName(meterAccessibleText(m_code, m_value, m_unit));
     update();
+}
+
+AccessibleItem MeterCard::accessibleSelf() const
+{
+    return {QAccessible::StaticText, meterAccessibleText(m_code, m_value, m_unit), {}};
 }
 
 QSize MeterCard::sizeHint() const

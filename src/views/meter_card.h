@@ -1,5 +1,7 @@
 #pragma once
 
+#include "views/accessible_content.h"
+
 #include <QColor>
 #include <QWidget>
 
@@ -8,7 +10,7 @@
 namespace ferrow {
 
 // A coloured instrument tile: a code ("VBUS"), a large five-decimal figure and its unit.
-class MeterCard : public QWidget {
+class MeterCard : public QWidget, public AccessibleContent {
     Q_OBJECT
 public:
     // The popover's tile, or the main window's larger branded card of the same construction.
@@ -23,6 +25,7 @@ public:
     void setValue(std::optional<double> value);
     std::optional<double> value() const { return m_value; }
     QSize sizeHint() const override;
+    AccessibleItem accessibleSelf() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

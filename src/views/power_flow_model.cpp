@@ -2,6 +2,7 @@
 
 #include "model/localized_text.h"
 #include "model/value_text.h"
+#include "views/accessibility_model.h"
 
 #include <algorithm>
 #include <cmath>
@@ -181,6 +182,26 @@ QString flowNodeValueText(const FlowNodeValue &node)
 {
     const QString figure = formatFigure(node.valueW, "%.1f W");
     return figure == absentText() ? figure : node.prefix + figure;
+}
+
+QString flowDescription(const PowerSnapshot &s)
+{
+    const auto watts = [](std::optional<double> value) { return spokenValue(formatFigure(value, "%.1f W")); };
+    const QString adapter = watts(s.dcPowerW), system = watts(s.systemPowerW);
+    // The battery's direction is in the sentence, so its figure goes without a sign.
+    const std::optional<double> batteryW = batteryNodeValue(s).valueW;
+    const QString battery = watts(batteryW ? std::optional(std::abs(*batteryW)) : std::nullopt);
+    switch (flowCase(flowInputs(s))) {
+    case FlowCase::noBattery:
+        return localizedFormatText("accessibility.flow_adapter", {adapter, system});
+    case FlowCase::batteryOnly:
+        return localizedFormatText("accessibility.flow_battery", {battery, system});
+    case FlowCase::chargingOrIdle:
+        return localizedFormatText("accessibility.flow_charging", {adapter, system, battery});
+    case FlowCase::discharging:
+        return localizedFormatText("accessibility.flow_discharging", {adapter, battery, system});
+    }
+    return {};
 }
 
 } // namespace ferrow

@@ -65,4 +65,8 @@ struct FlowNodeValue {
 FlowNodeValue batteryNodeValue(const PowerSnapshot &snapshot);
 QString flowNodeValueText(const FlowNodeValue &node);
 
+// The diagram in words, for a screen reader: where the power comes from and where it goes, with
+// the nodes' figures ("Adapter 46.4 watts to system 14.6 watts and battery 31.8 watts").
+QString flowDescription(const PowerSnapshot &snapshot);
+
 } // namespace ferrow

@@ -1,6 +1,7 @@
 #include "views/power_flow_view.h"
 
 #include "model/localized_text.h"
+#include "views/accessibility_model.h"
 #include "views/glyphs.h"
 #include "views/power_flow_model.h"
 #include "views/view_painting.h"
@@ -66,6 +67,13 @@ PowerFlowView::PowerFlowView(QWidget *parent)
     m_frameTimer.setInterval(83);
     m_frameTimer.setTimerType(Qt::CoarseTimer);
     connect(&m_frameTimer, &QTimer::timeout, this, &PowerFlowView::animationTick);
+}
+
+std::vector<AccessibleItem> PowerFlowView::accessibleParts() const
+{
+    return {{QAccessible::Heading, localizedText("power.live_flow"), {}},
+            {QAccessible::StaticText, spokenValue(snapshot().powerSourceText()), {}},
+            {QAccessible::StaticText, flowDescription(snapshot()), {}}};
 }
 
 void PowerFlowView::setReduceMotion(bool reduceMotion)

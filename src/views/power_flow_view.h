@@ -1,5 +1,6 @@
 #pragma once
 
+#include "views/accessible_content.h"
 #include "views/power_flow_model.h"
 #include "views/snapshot_view.h"
 
@@ -15,13 +16,15 @@ namespace ferrow {
 // Where the power goes now: adapter, the Mac and the battery, joined by an animated connector.
 // The dots move on a clock while the view is visible; nothing animates while it is hidden or
 // while motion is reduced.
-class PowerFlowView : public SnapshotView {
+class PowerFlowView : public SnapshotView, public AccessibleContent {
 public:
     explicit PowerFlowView(QWidget *parent = nullptr);
 
     void setReduceMotion(bool reduceMotion);
     bool isAnimating() const { return m_frameTimer.isActive(); }
     QSize sizeHint() const override { return {430, 116}; }
+    // The title, where the power comes from, and the diagram in words.
+    std::vector<AccessibleItem> accessibleParts() const override;
 
     // The connector's routes, drawn once a reading into the cached layer.
     static void paintConnectorRoutes(QPainter &painter, const QRectF &rect, const PowerSnapshot &snapshot);

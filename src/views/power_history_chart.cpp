@@ -1,6 +1,8 @@
 #include "views/power_history_chart.h"
 
 #include "model/localized_text.h"
+#include "views/accessibility_model.h"
+#include "views/accessible_content.h"
 #include "views/dashboard_model.h"
 #include "views/glyphs.h"
 #include "views/power_history_chart_model.h"
@@ -75,22 +77,21 @@ std::chrono::seconds localUtcOffset(WallTime time)
 // One statistic under the chart: its label in the secondary colour, then 6 points on its value in
 // the primary colour with digits all of one width, so the figure does not jitter as it changes.
 // Painted as one widget, so accessibility reads label and value as one element.
-class PowerHistoryChart::Statistic : public QWidget {
+class PowerHistoryChart::Statistic : public QWidget, public AccessibleContent {
 public:
     explicit Statistic(const char *labelKey) : m_label(localizedText(labelKey)), m_value(absentText())
     {
         setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        setAccessibleName(text());
     }
 
     QString text() const { return m_label + u' ' + m_value; }
+    AccessibleItem accessibleSelf() const override { return {QAccessible::StaticText, spokenReading(m_label, m_value), {}}; }
 
     void setValue(const QString &value)
     {
         if (value == m_value)
             return;
         m_value = value;
-        setAccessibleName(text());
         updateGeometry();
         update();
     }
@@ -285,10 +286,12 @@ void PowerHistoryChart::rebuild()
         m_valueAxis->setTickAnchor(valueTicks.valuesW.front());
         m_valueAxis->setTickInterval(valueTicks.stepW);
     }
-    m_chartView->setAccessibleDescription(QStringLiteral("%1 %2\u2013%3, %4 %5\u2013%6")
-                                              .arg(m_timeAxis->titleText(), markText(window.start), markText(window.end),
-                                                   m_valueAxis->titleText(), QString::asprintf("%.0f", statistics.lowerW),
-                                                   QString::asprintf("%.0f W", statistics.upperW)));
+    const QString description = QStringLiteral("%1 %2\u2013%3, %4 %5\u2013%6")
+                                    .arg(m_timeAxis->titleText(), markText(window.start), markText(window.end), m_valueAxis->titleText(),
+                                         QString::asprintf("%.0f", statistics.lowerW), QString::asprintf("%.0f W", statistics.upperW));
+    // Said again only when the axes move, not with every reading.
+    if (description != m_chartView->accessibleDescription())
+        m_chartView->setAccessibleDescription(description);
 
     // One line per run; series are reused rather than made anew each second.
     std::size_t line = 0;

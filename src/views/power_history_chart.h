@@ -35,7 +35,7 @@ public:
 
     int visibleLineCount() const;
     qsizetype visiblePointCount() const;
-    // Each statistic as accessibility reads it: the label, then the value.
+    // Each statistic as shown: the label, then the value.
     QString averageText() const;
     QString peakText() const;
     bool isWaiting() const;

@@ -1,5 +1,6 @@
 #include "views/value_rows_view.h"
 
+#include "views/accessibility_model.h"
 #include "views/view_painting.h"
 
 #include <QPainter>
@@ -57,6 +58,17 @@ QSize ValueRowsView::sizeHint() const
 {
     const QMargins margins = contentsMargins();
     return {200, metrics(m_size).height * static_cast<int>(m_rows.size()) + margins.top() + margins.bottom()};
+}
+
+std::vector<AccessibleItem> ValueRowsView::accessibleParts() const
+{
+    const int height = metrics(m_size).height;
+    std::vector<AccessibleItem> parts;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const QRect area(contentsRect().left(), contentsRect().top() + height * static_cast<int>(i), contentsRect().width(), height);
+        parts.push_back({QAccessible::StaticText, spokenReading(m_rows[i].label, m_rows[i].value), area});
+    }
+    return parts;
 }
 
 void ValueRowsView::paintEvent(QPaintEvent *)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "views/accessible_content.h"
 #include "views/ferrow_palette.h"
 #include "views/value_row.h"
 
@@ -12,7 +13,7 @@ namespace ferrow {
 
 // Label and value rows, the label leading and the value trailing in its model's colour, as tall as
 // its rows. Compact rows (the popover's card) are ruled apart; regular ones (the report) are not.
-class ValueRowsView : public QWidget {
+class ValueRowsView : public QWidget, public AccessibleContent {
 public:
     enum class Size { compact, regular };
 
@@ -24,6 +25,8 @@ public:
     // view that picks its rows' colours for a ground of its own rather than the palette's.
     void setLegibleOn(std::optional<QColor> ground);
     QSize sizeHint() const override;
+    // Each row as one sentence: "Voltage, 12.02 volts".
+    std::vector<AccessibleItem> accessibleParts() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -13,6 +13,11 @@ MeterCaption::MeterCaption(QWidget *parent)
     setFixedHeight(17);
 }
 
+AccessibleItem MeterCaption::accessibleSelf() const
+{
+    return {QAccessible::StaticText, meterCaption(snapshot()), {}};
+}
+
 bool MeterCaption::paintsDifferently(const PowerSnapshot &shown, const PowerSnapshot &next) const
 {
     return meterCaption(shown) != meterCaption(next);

@@ -1,6 +1,7 @@
 #include "views/popover/popover_header.h"
 
 #include "model/localized_text.h"
+#include "views/accessibility_model.h"
 #include "views/brand_links.h"
 #include "views/dashboard_model.h"
 #include "views/view_painting.h"
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int kHeight = 51;
 constexpr double kLogoSize = 31;
+constexpr int kStatusPart = 2;
 
 } // namespace
 
@@ -34,6 +36,18 @@ void PopoverHeader::setSubtitle(const QString &subtitle)
 void PopoverHeader::setReduceMotion(bool reduceMotion)
 {
     m_logo->setReduceMotion(reduceMotion);
+}
+
+std::vector<AccessibleItem> PopoverHeader::accessibleParts() const
+{
+    return {{QAccessible::Heading, localizedText("FERROW"), {}},
+            {QAccessible::StaticText, m_subtitle, {}},
+            {QAccessible::StaticText, liveStatusText(snapshot()), {}}};
+}
+
+void PopoverHeader::announceStatus()
+{
+    announceNameChange(this, kStatusPart);
 }
 
 bool PopoverHeader::paintsDifferently(const PowerSnapshot &shown, const PowerSnapshot &next) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "views/accessible_content.h"
 #include "views/snapshot_view.h"
 
 namespace ferrow {
@@ -7,12 +8,15 @@ namespace ferrow {
 class FerrowLogoLink;
 
 // The popover's header: the logo (a link), title and subtitle, and the live or waiting status.
-class PopoverHeader : public SnapshotView {
+class PopoverHeader : public SnapshotView, public AccessibleContent {
 public:
     explicit PopoverHeader(QWidget *parent = nullptr);
 
     void setSubtitle(const QString &subtitle);
     void setReduceMotion(bool reduceMotion);
+    // The title, the subtitle, then the status, which tells a screen reader of a new state.
+    std::vector<AccessibleItem> accessibleParts() const override;
+    void announceStatus();
 
 protected:
     void paintEvent(QPaintEvent *event) override;

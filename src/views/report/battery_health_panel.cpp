@@ -48,6 +48,7 @@ BatteryHealthPanel::BatteryHealthPanel(QWidget *parent)
 BatteryHealthPanel::Plot BatteryHealthPanel::makePlot(const char *titleKey, const char *valueFormat)
 {
     Plot plot{new PanelText(uiFont(12), ColorRole::secondaryText, 4, 18, 26), new QChart, nullptr, new QDateTimeAxis, new QValueAxis};
+    plot.title->readAsHeading();
     plot.title->setText(localizedText(titleKey));
     plot.view = new QChartView(plot.chart);
     plot.chart->setBackgroundVisible(false);

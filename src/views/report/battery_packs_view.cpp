@@ -33,8 +33,11 @@ void BatteryPacksView::setPacks(const std::vector<BatteryPack> &packs)
     while (m_columns.size() < packs.size()) {
         const int index = static_cast<int>(m_columns.size());
         auto *holder = new QWidget;
-        Column column{holder, new PanelText(uiFont(13, QFont::DemiBold), ColorRole::primaryText, 4, 20, 28, holder),
-                      new ValueRowsView(ValueRowsView::Size::regular, holder)};
+        // Made without a parent, as every piece that reads itself to a screen reader: one made
+        // inside its parent is asked for its interface before it is all there. The layout adopts it.
+        Column column{holder, new PanelText(uiFont(13, QFont::DemiBold), ColorRole::primaryText, 4, 20, 28),
+                      new ValueRowsView(ValueRowsView::Size::regular)};
+        column.title->readAsHeading();
         auto *stack = new QVBoxLayout(holder);
         stack->setContentsMargins(0, 0, 0, 0);
         stack->setSpacing(0);

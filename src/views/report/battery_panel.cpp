@@ -1,6 +1,7 @@
 #include "views/report/battery_panel.h"
 
 #include "model/localized_text.h"
+#include "views/accessibility_model.h"
 #include "views/main_window_model.h"
 #include "views/report/battery_packs_view.h"
 #include "views/report/unavailable_note.h"
@@ -13,9 +14,16 @@
 namespace ferrow {
 
 // The charge as a figure and a bar, with the battery's state beside the figure.
-class BatteryPanel::Charge : public SnapshotView {
+class BatteryPanel::Charge : public SnapshotView, public AccessibleContent {
 public:
     Charge() { setFixedHeight(60); }
+
+    std::vector<AccessibleItem> accessibleParts() const override
+    {
+        const PowerSnapshot &s = snapshot();
+        return {{QAccessible::StaticText, spokenReading(localizedText("battery.pack_charge"), QStringLiteral("%1%").arg(s.batteryPercent)), {}},
+                {QAccessible::StaticText, s.statusText(), {}}};
+    }
 
 protected:
     void paintEvent(QPaintEvent *) override
@@ -44,6 +52,7 @@ BatteryPanel::BatteryPanel(QWidget *parent)
 {
     m_absent->setText(localizedText("battery.not_detected"), localizedText("battery.not_detected_description"));
     m_packsHeading->setText(localizedText("battery.packs"));
+    m_packsHeading->readAsHeading();
     addContent(m_charge);
     addContent(m_rows);
     addContent(m_packsHeading);

@@ -2,6 +2,7 @@
 
 #include "model/localized_text.h"
 #include "model/value_text.h"
+#include "views/accessibility_model.h"
 #include "views/main_window_model.h"
 #include "views/report/unavailable_note.h"
 #include "views/view_painting.h"
@@ -18,9 +19,19 @@ constexpr double kTileGap = 10;
 } // namespace
 
 // The tiles, as many rows of them as the cells take.
-class CellsPanel::Grid : public QWidget {
+class CellsPanel::Grid : public QWidget, public AccessibleContent {
 public:
     Grid() { setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); }
+
+    std::vector<AccessibleItem> accessibleParts() const override
+    {
+        std::vector<AccessibleItem> parts;
+        for (std::size_t i = 0; i < m_volts.size(); ++i)
+            parts.push_back({QAccessible::StaticText,
+                             spokenReading(localizedFormat("accessibility.cell", {static_cast<std::int64_t>(i + 1)}), formatFigure(m_volts[i], "%.3f V")),
+                             {}});
+        return parts;
+    }
 
     void setCells(const std::vector<double> &volts)
     {

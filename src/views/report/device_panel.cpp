@@ -15,6 +15,7 @@ DevicePanel::DevicePanel(QWidget *parent)
     , m_lifetime(new ValueRowsView(ValueRowsView::Size::regular))
 {
     m_lifetimeHeading->setText(localizedText("device.history"));
+    m_lifetimeHeading->readAsHeading();
     addContent(m_device);
     addContent(m_lifetimeHeading);
     addContent(m_lifetime);

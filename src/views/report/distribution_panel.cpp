@@ -1,5 +1,6 @@
 #include "views/report/distribution_panel.h"
 
+#include "views/accessibility_model.h"
 #include "views/main_window_model.h"
 #include "views/value_rows_view.h"
 #include "views/view_painting.h"
@@ -9,9 +10,14 @@
 namespace ferrow {
 
 // The rule under the figures, then how they relate and how often they are read.
-class DistributionPanel::Caption : public QWidget {
+class DistributionPanel::Caption : public QWidget, public AccessibleContent {
 public:
     Caption() { setFixedHeight(30); }
+
+    std::vector<AccessibleItem> accessibleParts() const override
+    {
+        return {{QAccessible::StaticText, m_text, {}}, {QAccessible::StaticText, spokenValue(kSampleRate), {}}};
+    }
 
     void setText(const QString &text)
     {
@@ -36,10 +42,11 @@ protected:
         painter.setFont(uiFont(11));
         const QRectF line(0, 10, width, 20);
         painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, m_text);
-        painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("1 Hz"));
+        painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, kSampleRate);
     }
 
 private:
+    inline static const QString kSampleRate = QStringLiteral("1 Hz");
     QString m_text;
     FerrowPalette m_palette;
 };

@@ -50,6 +50,11 @@ ReportPanel::ReportPanel(const char *titleKey, Glyph glyph, std::optional<QColor
     m_content->setSpacing(0);
 }
 
+std::vector<AccessibleItem> ReportPanel::accessibleParts() const
+{
+    return {{QAccessible::Heading, m_title, QRect(kPadding, kPadding, width() - 2 * kPadding, kHeaderHeight)}};
+}
+
 void ReportPanel::addContent(QWidget *piece)
 {
     piece->setContentsMargins(kInkFringe, 0, kInkFringe, 0);

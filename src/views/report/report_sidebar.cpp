@@ -2,6 +2,7 @@
 
 #include "model/localized_text.h"
 #include "model/value_text.h"
+#include "views/accessible_content.h"
 #include "views/brand_links.h"
 #include "views/report/sidebar_row.h"
 #include "views/view_painting.h"
@@ -53,6 +54,7 @@ ReportSidebar::ReportSidebar(QWidget *parent)
     const auto addHeader = [&](const char *key) {
         QLabel *header = fontLabel(uiFont(11, QFont::DemiBold), localizedText(key));
         header->setContentsMargins(8, 10, 8, 4);
+        markAsHeading(header);
         m_headers.push_back(header);
         column->addWidget(header);
     };
@@ -69,6 +71,7 @@ ReportSidebar::ReportSidebar(QWidget *parent)
     column->addStretch();
     m_updatedAt->setObjectName(QStringLiteral("updatedAt"));
     m_updatedAt->setContentsMargins(8, 0, 8, 0);
+    readWhenAsked(m_updatedAt);
     column->addWidget(m_updatedAt);
 }
 

@@ -31,7 +31,11 @@ SectionHeading::SectionHeading(MainSection section, QWidget *parent)
     , m_section(section)
 {
     setFixedHeight(30);
-    setAccessibleName(localizedText(sectionTitleKey(section)));
+}
+
+AccessibleItem SectionHeading::accessibleSelf() const
+{
+    return {QAccessible::Heading, localizedText(sectionTitleKey(m_section)), {}};
 }
 
 void SectionHeading::setFerrowPalette(const FerrowPalette &palette)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "views/accessible_content.h"
 #include "views/ferrow_palette.h"
 #include "views/glyphs.h"
 #include "views/main_window_model.h"
@@ -12,10 +13,11 @@ namespace ferrow {
 Glyph sectionGlyph(MainSection section);
 
 // A section's heading in the report: its glyph and title.
-class SectionHeading : public QWidget {
+class SectionHeading : public QWidget, public AccessibleContent {
 public:
     explicit SectionHeading(MainSection section, QWidget *parent = nullptr);
     void setFerrowPalette(const FerrowPalette &palette);
+    AccessibleItem accessibleSelf() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -1,6 +1,7 @@
 #include "views/report/sessions_panel.h"
 
 #include "model/localized_text.h"
+#include "views/accessibility_model.h"
 #include "views/view_painting.h"
 
 #include <QPainter>
@@ -8,11 +9,25 @@
 namespace ferrow {
 
 // Two lines a session: what and when on the leading side, the figures trailing, ruled apart.
-class SessionsPanel::Rows : public QWidget {
+class SessionsPanel::Rows : public QWidget, public AccessibleContent {
 public:
     static constexpr int kRowHeight = 44;
 
     Rows() { setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); }
+
+    // A session as one sentence, in the order it is shown.
+    std::vector<AccessibleItem> accessibleParts() const override
+    {
+        std::vector<AccessibleItem> parts;
+        for (std::size_t i = 0; i < m_rows.size(); ++i) {
+            const SessionRowText &row = m_rows[i];
+            QString sentence = row.title;
+            for (const QString &figure : {row.when, row.percent, row.energy, row.power})
+                sentence = spokenReading(sentence, figure);
+            parts.push_back({QAccessible::StaticText, sentence, QRect(0, kRowHeight * static_cast<int>(i), width(), kRowHeight)});
+        }
+        return parts;
+    }
 
     void setRows(std::vector<SessionRowText> rows, std::vector<bool> onBattery)
     {

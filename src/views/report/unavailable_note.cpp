@@ -1,5 +1,6 @@
 #include "views/report/unavailable_note.h"
 
+#include "views/accessibility_model.h"
 #include "views/glyphs.h"
 #include "views/view_painting.h"
 
@@ -18,6 +19,11 @@ void UnavailableNote::setText(const QString &title, const QString &description)
     m_title = title;
     m_description = description;
     update();
+}
+
+AccessibleItem UnavailableNote::accessibleSelf() const
+{
+    return {QAccessible::StaticText, m_title.isEmpty() ? QString() : spokenNote(m_title, m_description), {}};
 }
 
 void UnavailableNote::setFerrowPalette(const FerrowPalette &palette)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "views/accessible_content.h"
 #include "views/ferrow_palette.h"
 
 #include <QWidget>
@@ -8,12 +9,14 @@ namespace ferrow {
 
 // What a panel shows in place of figures the machine does not have: a battery glyph, a title and
 // a line of description, centred in the height it is given.
-class UnavailableNote : public QWidget {
+class UnavailableNote : public QWidget, public AccessibleContent {
 public:
     explicit UnavailableNote(int height, QWidget *parent = nullptr);
 
     void setText(const QString &title, const QString &description);
     void setFerrowPalette(const FerrowPalette &palette);
+    // Read as one element, title and description.
+    AccessibleItem accessibleSelf() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
