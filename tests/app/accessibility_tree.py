@@ -1,0 +1,225 @@
+#!/usr/bin/env python3
+"""Reads the application's windows as a screen reader does, through AT-SPI.
+
+Usage: accessibility_tree.py FERROW RECORDING ENGLISH_TS
+
+Runs FERROW on the RECORDING (a folder of tests/fixtures, a notebook charging) under Xvfb, on a
+private session bus with its own accessibility bus, with a private home. Without a tray the
+dashboard is an ordinary window; the details window is opened by pressing "Open details" through
+AT-SPI. Both trees are then walked and the test fails on:
+
+  - a reading without a name: an element on screen with no children and no name (separators, and
+    the single drawing area of a named element, excepted);
+  - a section or panel heading that is not exposed with the heading role;
+  - the flow description and a distribution row that do not read the recording's figures;
+  - any change of a name or a value sent while the readings come in once a second.
+
+Exits 77 (skipped) where Xvfb, dbus-run-session or python3-pyatspi is missing.
+"""
+
+import importlib.util
+import os
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import xml.etree.ElementTree as ElementTree
+
+SKIP = 77
+INSIDE = "--inside-session"
+
+# The recording's figures, as the views round them: 46.38 W in, 14.62 W to the system, 31.76 W
+# into the battery.
+FLOW = "Adapter 46.4 watts to system 14.6 watts and battery 31.8 watts"
+SYSTEM_TOTAL = "System total, 14.6 watts"
+
+# Headings by text id: the popover's panel titles, the details window's section headings, its
+# panels' titles and the device panel's sub-heading.
+POPOVER_HEADINGS = ["power.live_flow", "battery.status"]
+WINDOW_HEADINGS = ["section.power", "section.battery", "section.cells", "section.energy_history", "section.device",
+                   "power.distribution", "power_history.title", "battery.title", "cells.status", "device.title",
+                   "device.history"]
+
+
+def fail(message):
+    raise SystemExit(f"FAIL: {message}")
+
+
+def interpreter_with_pyatspi():
+    """This Python if it has pyatspi, else the system's: the Debian package serves only that one."""
+    if importlib.util.find_spec("pyatspi"):
+        return sys.executable
+    system = "/usr/bin/python3"
+    if os.path.realpath(system) != os.path.realpath(sys.executable) and os.access(system, os.X_OK):
+        probe = [system, "-c", "import importlib.util, sys; sys.exit(importlib.util.find_spec('pyatspi') is None)"]
+        if subprocess.run(probe, check=False).returncode == 0:
+            return system
+    return None
+
+
+def english_texts(path):
+    texts = {}
+    for message in ElementTree.parse(path).getroot().iter("message"):
+        translation = message.find("translation")
+        if translation is not None and translation.text:
+            texts[message.get("id")] = translation.text
+    return texts
+
+
+def start_xvfb():
+    read_end, write_end = os.pipe()
+    xvfb = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1400x1000x24", "-nolisten", "tcp"],
+                            pass_fds=(write_end,), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    os.close(write_end)
+    display = b""
+    while not display.endswith(b"\n"):
+        chunk = os.read(read_end, 16)
+        if not chunk:
+            fail("Xvfb did not start")
+        display += chunk
+    os.close(read_end)
+    return xvfb, ":" + display.decode().strip()
+
+
+def start_ferrow(ferrow, recording, display, home):
+    environment = dict(os.environ)
+    environment.pop("WAYLAND_DISPLAY", None)
+    environment.update({
+        "DISPLAY": display,
+        "QT_QPA_PLATFORM": "xcb",
+        "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+        "HOME": home,
+        "XDG_CONFIG_HOME": os.path.join(home, "config"),
+        "XDG_DATA_HOME": os.path.join(home, "data"),
+        "XDG_CACHE_HOME": os.path.join(home, "cache"),
+        "XDG_RUNTIME_DIR": os.path.join(home, "runtime"),
+    })
+    os.makedirs(environment["XDG_RUNTIME_DIR"], mode=0o700)
+    return subprocess.Popen([ferrow, "--source", f"recorded:{recording}"], env=environment, stdout=subprocess.PIPE,
+                            stderr=subprocess.STDOUT, text=True)
+
+
+def run_inside(ferrow, recording, english_ts):
+    import pyatspi  # on this session's accessibility bus
+    from gi.repository import GLib
+
+    texts = english_texts(english_ts)
+
+    def children(node):
+        return [child for child in node if child is not None]
+
+    def showing(node):
+        return node.getState().contains(pyatspi.STATE_SHOWING)
+
+    def walk(node, path=()):
+        """(node, path of role names, parent) for every element on screen under node."""
+        found = []
+        for child in children(node):
+            if showing(child):
+                found.append((child, path + (child.getRoleName(),), node))
+                found += walk(child, path + (child.getRoleName(),))
+        return found
+
+    def wait_for(what, find, seconds):
+        deadline = time.monotonic() + seconds
+        while time.monotonic() < deadline:
+            if (found := find()) is not None:
+                return found
+            time.sleep(0.2)
+        fail(f"no {what} after {seconds} s")
+
+    def application():
+        for app in children(pyatspi.Registry.getDesktop(0)):
+            if app.name == "Ferrow":
+                return app
+        return None
+
+    def element(root, role, name):
+        return next((node for node, _, _ in walk(root) if node.getRoleName() == role and node.name == name), None)
+
+    def check(window, headings):
+        elements = walk(window)
+        for node, path, parent in elements:
+            if node.childCount or node.name or node.getRoleName() in ("separator", "scroll bar", "unknown"):
+                continue  # "unknown": the splitter's handle, which Qt gives no role
+            if parent.name and len(children(parent)) == 1:
+                continue  # the drawing area of a named chart
+            fail(f"a reading without a name in {window.name!r}: {' > '.join(path)}")
+        shown = {node.name for node, _, _ in elements if node.getRoleName() == "heading"}
+        for key in headings:
+            if texts[key] not in shown:
+                fail(f"{texts[key]!r} in {window.name!r} is not exposed as a heading (headings: {sorted(shown)})")
+        return {node.name for node, _, _ in elements}
+
+    app = wait_for("application on the accessibility bus", application, 20)
+    popover = wait_for("dashboard window", lambda: next((w for w in children(app) if w.name == texts["FERROW"]), None), 20)
+    # The first reading arrives within a second or two of the start.
+    wait_for("flow description", lambda: element(popover, "label", FLOW), 15)
+    check(popover, POPOVER_HEADINGS)
+
+    details = wait_for("Open details button", lambda: element(popover, "push button", texts["action.open_details"]), 5)
+    details.queryAction().doAction(0)
+    window = wait_for("details window", lambda: next((w for w in children(app) if w.name == texts["window.device_details"]), None), 10)
+    wait_for(f"{SYSTEM_TOTAL!r}", lambda: element(window, "label", SYSTEM_TOTAL), 10)
+    check(window, WINDOW_HEADINGS)
+
+    # Readings keep coming once a second (the sidebar's time among them): no name or value may be
+    # said to change. (The chart's description follows its axes, which move once a minute.)
+    changes = []
+
+    def on_change(event):
+        changes.append(f"{event.type} on {event.source.getRoleName()} {event.source.name!r}")
+
+    for kind in ("accessible-name", "accessible-value"):
+        pyatspi.Registry.registerEventListener(on_change, f"object:property-change:{kind}")
+    GLib.timeout_add(3500, pyatspi.Registry.stop)
+    pyatspi.Registry.start()
+    if changes:
+        fail(f"{len(changes)} changes announced in 3.5 s of steady readings, first {changes[0]}")
+    print("ok: both windows read, headings marked, the recording's figures heard, nothing announced per reading")
+
+
+def inside(ferrow, recording, english_ts):
+    home = tempfile.mkdtemp(prefix="ferrow-a11y-")
+    xvfb, display = start_xvfb()
+    app = None
+    try:
+        app = start_ferrow(ferrow, recording, display, home)
+        run_inside(ferrow, recording, english_ts)
+        app.send_signal(signal.SIGTERM)
+        output, _ = app.communicate(timeout=15)
+        if app.returncode != 0:
+            fail(f"ferrow ended with {app.returncode} after SIGTERM:\n{output[-3000:]}")
+    finally:
+        if app and app.poll() is None:
+            app.kill()
+            output, _ = app.communicate()
+            print(output[-3000:], file=sys.stderr)
+        xvfb.terminate()
+        xvfb.wait()
+        shutil.rmtree(home, ignore_errors=True)
+
+
+def main():
+    if len(sys.argv) == 5 and sys.argv[1] == INSIDE:
+        inside(*sys.argv[2:])
+        return
+    if len(sys.argv) != 4:
+        raise SystemExit(__doc__)
+    for tool in ("Xvfb", "dbus-run-session"):
+        if not shutil.which(tool):
+            print(f"SKIP: {tool} is not installed")
+            sys.exit(SKIP)
+    python = interpreter_with_pyatspi()
+    if not python:
+        print("SKIP: pyatspi (python3-pyatspi) is not installed")
+        sys.exit(SKIP)
+    # A session bus of its own: the accessibility bus and its registry start on it, and end with it.
+    command = ["dbus-run-session", "--", python, os.path.abspath(__file__), INSIDE, *sys.argv[1:]]
+    sys.exit(subprocess.run(command, timeout=90, check=False).returncode)
+
+
+if __name__ == "__main__":
+    main()
