@@ -1,8 +1,10 @@
 #include "app/text_table.h"
 #include "model/localized_text.h"
+#include "views/accessibility_model.h"
 #include "views/battery_status_model.h"
 #include "views/dashboard_model.h"
 #include "views/ferrow_palette.h"
+#include "views/power_flow_model.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -12,6 +14,7 @@
 using namespace ferrow;
 
 Q_DECLARE_METATYPE(ferrow::PowerSnapshot)
+Q_DECLARE_METATYPE(QLocale)
 
 namespace {
 
@@ -224,6 +227,113 @@ private slots:
         QFETCH(QString, actual);
         QFETCH(QString, expected);
         QCOMPARE(actual, expected);
+    }
+
+    // What a screen reader hears for a value as shown: units in words, the locale's digits.
+    void spokenValues_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("spoken");
+        const QLocale english(QLocale::English, QLocale::UnitedStates), german(QLocale::German, QLocale::Germany);
+        QTest::newRow("watts") << english << QStringLiteral("22.4 W") << QStringLiteral("22.4 watts");
+        QTest::newRow("signed watts") << english << QStringLiteral("+31.8 W") << QStringLiteral("+31.8 watts");
+        QTest::newRow("negative current") << english << QStringLiteral("-0.250 A") << QStringLiteral("-0.250 amperes");
+        QTest::newRow("below zero") << english << QStringLiteral("-4.0 \u00B0C") << QStringLiteral("-4.0 degrees Celsius");
+        QTest::newRow("the dash") << english << dash() << QStringLiteral("not available");
+        QTest::newRow("a capacity, plural") << english << localizedFormat("capacity.mah", {6249}) << QStringLiteral("6,249 milliampere-hours");
+        QTest::newRow("a capacity, singular") << english << localizedFormat("capacity.mah", {1}) << QStringLiteral("1 milliampere-hour");
+        QTest::newRow("the sample rate") << english << QStringLiteral("1 Hz") << QStringLiteral("1 hertz");
+        QTest::newRow("a figure inside a text") << english << QStringLiteral("USB-C PD \u00B7 20.1 V") << QStringLiteral("USB-C PD \u00B7 20.1 volts");
+        QTest::newRow("another unit that starts alike") << english << QStringLiteral("8.4 Wh") << QStringLiteral("8.4 Wh");
+        QTest::newRow("words") << english << QStringLiteral("Charging") << QStringLiteral("Charging");
+        QTest::newRow("German digits") << german << QStringLiteral("+1.500 A") << QStringLiteral("+1,500 amperes");
+        QTest::newRow("German capacity") << german << QStringLiteral("6.249 mAh") << QStringLiteral("6.249 milliampere-hours");
+    }
+
+    void spokenValues()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(QString, shown);
+        QFETCH(QString, spoken);
+        const QLocale before;
+        QLocale::setDefault(locale);
+        const QString actual = spokenValue(shown);
+        QLocale::setDefault(before);
+        QCOMPARE(actual, spoken);
+    }
+
+    // The flow diagram in words, in each of its cases.
+    void flowDescriptions_data()
+    {
+        QTest::addColumn<PowerSnapshot>("snapshot");
+        QTest::addColumn<QString>("description");
+        PowerSnapshot charging = notebook(true, true, 31.76);
+        charging.dcPowerW = 46.38;
+        charging.systemPowerW = 14.62;
+        QTest::newRow("charging") << charging << QStringLiteral("Adapter 46.4 watts to system 14.6 watts and battery 31.8 watts");
+        PowerSnapshot idle = notebook(true, false, 0.03);
+        idle.systemPowerW = 30.0;
+        QTest::newRow("idle: the flow snaps to zero") << idle << QStringLiteral("Adapter 30.0 watts to system 30.0 watts and battery 0.0 watts");
+        PowerSnapshot helped = notebook(true, false, -10.0);
+        helped.systemPowerW = 40.0;
+        QTest::newRow("the battery helps the adapter") << helped << QStringLiteral("Adapter 30.0 watts and battery 10.0 watts to system 40.0 watts");
+        PowerSnapshot onBattery = notebook(false, false, -22.4);
+        onBattery.dcPowerW = 0;
+        onBattery.systemPowerW = 22.4;
+        QTest::newRow("on battery") << onBattery << QStringLiteral("Battery 22.4 watts to system 22.4 watts");
+        PowerSnapshot waiting = onBattery;
+        waiting.isDataAvailable = false;
+        QTest::newRow("waiting") << waiting << QStringLiteral("Battery not available to system 22.4 watts");
+        PowerSnapshot desktop;
+        desktop.isExternalConnected = true;
+        desktop.dcPowerW = 35.0;
+        desktop.systemPowerW = 35.0;
+        QTest::newRow("desktop") << desktop << QStringLiteral("Adapter 35.0 watts to system 35.0 watts");
+    }
+
+    void flowDescriptions()
+    {
+        QFETCH(PowerSnapshot, snapshot);
+        QFETCH(QString, description);
+        QCOMPARE(flowDescription(snapshot), description);
+    }
+
+    // The popover's status as read, and which changes of it are announced.
+    void liveStatus_data()
+    {
+        QTest::addColumn<PowerSnapshot>("before");
+        QTest::addColumn<PowerSnapshot>("after");
+        QTest::addColumn<QString>("status"); // of after
+        QTest::addColumn<bool>("announced");
+        const PowerSnapshot charging = notebook(true, true, 18.0), onBattery = notebook(false, false, -6.0);
+        PowerSnapshot notCharging = notebook(true, false, 0.0), full = notCharging, waiting = charging, moreFigures = charging;
+        notCharging.batteryPercent = 99;
+        full.batteryPercent = 100;
+        waiting.isDataAvailable = false;
+        moreFigures.dcPowerW = 42.0;
+        moreFigures.batteryFlowW = 25.0;
+        PowerSnapshot desktop, busierDesktop;
+        desktop.isExternalConnected = busierDesktop.isExternalConnected = desktop.isDataAvailable = busierDesktop.isDataAvailable = true;
+        busierDesktop.systemPowerW = 80.0;
+        QTest::newRow("unplugged") << charging << onBattery << QStringLiteral("Live, On battery") << true;
+        QTest::newRow("plugged in") << onBattery << charging << QStringLiteral("Live, Charging") << true;
+        QTest::newRow("fully charged") << notCharging << full << QStringLiteral("Live, Fully charged") << true;
+        QTest::newRow("charging pauses: still plugged in") << charging << notCharging << QStringLiteral("Live, Not charging") << false;
+        QTest::newRow("figures change") << charging << moreFigures << QStringLiteral("Live, Charging") << false;
+        QTest::newRow("first reading") << waiting << charging << QStringLiteral("Live, Charging") << false;
+        QTest::newRow("readings stop") << charging << waiting << QStringLiteral("Waiting for telemetry") << false;
+        QTest::newRow("desktop") << desktop << busierDesktop << QStringLiteral("Live, On external power") << false;
+    }
+
+    void liveStatus()
+    {
+        QFETCH(PowerSnapshot, before);
+        QFETCH(PowerSnapshot, after);
+        QFETCH(QString, status);
+        QFETCH(bool, announced);
+        QCOMPARE(liveStatusText(after), status);
+        QCOMPARE(isAnnouncedChange(before, after), announced);
     }
 
     void segmentFills_data()
