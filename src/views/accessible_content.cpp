@@ -26,8 +26,6 @@ private:
     QAccessible::Role m_role;
 };
 
-class PartAccessible;
-
 // Every widget that reads from AccessibleContent: its own element, then its parts, then the
 // widgets in it. The parts are made when first asked for and live as long as the widget.
 class ContentAccessible : public QAccessibleWidget {
@@ -96,8 +94,6 @@ private:
 class PartAccessible : public QAccessibleInterface {
 public:
     PartAccessible(QWidget *widget, int index) : m_widget(widget), m_index(index) {}
-
-    int index() const { return m_index; }
 
     bool isValid() const override { return owner() && m_index < static_cast<int>(owner()->content()->accessibleParts().size()); }
     QObject *object() const override { return nullptr; }
