@@ -18,7 +18,7 @@ namespace ferrow {
 // platform/ (macos, linux, null) defines these functions; the application links exactly one.
 
 // The system's own menu-bar item; nothing where the toolkit's tray icon is the way.
-std::unique_ptr<MenuBarItem> createNativeMenuBarItem();
+std::unique_ptr<MenuBarItem> createNativeMenuBarItem(const MenuBarSymbolPainter &paintSymbol);
 std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier();
 std::unique_ptr<LoginItem> createLoginItem();
 

@@ -88,7 +88,7 @@ void MainAppLoginItem::openSettingsForState()
     }
 }
 
-std::unique_ptr<MenuBarItem> createNativeMenuBarItem()
+std::unique_ptr<MenuBarItem> createNativeMenuBarItem(const MenuBarSymbolPainter &)
 {
     return std::make_unique<MacStatusItem>();
 }

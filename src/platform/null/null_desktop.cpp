@@ -14,6 +14,11 @@ public:
 
 } // namespace
 
+std::unique_ptr<MenuBarItem> createNativeMenuBarItem(const MenuBarSymbolPainter &)
+{
+    return nullptr;
+}
+
 std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
 {
     return std::make_unique<SleepWakeNotifier>();
