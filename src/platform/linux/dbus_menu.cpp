@@ -273,6 +273,11 @@ bool exportDBusMenu(QDBusConnection &bus, const QString &path, QMenu &menu)
     qDBusRegisterMetaType<DBusMenuItemKeysList>();
     qDBusRegisterMetaType<DBusMenuEvent>();
     qDBusRegisterMetaType<DBusMenuEventList>();
+    // Qt finds the types of a method's arguments by the names they are written with.
+    qRegisterMetaType<DBusMenuLayout>("DBusMenuLayout");
+    qRegisterMetaType<DBusMenuItemList>("DBusMenuItemList");
+    qRegisterMetaType<DBusMenuItemKeysList>("DBusMenuItemKeysList");
+    qRegisterMetaType<DBusMenuEventList>("DBusMenuEventList");
     new DBusMenuAdaptor(menu); // owned by the menu
     return bus.registerObject(path, &menu, QDBusConnection::ExportAdaptors);
 }
