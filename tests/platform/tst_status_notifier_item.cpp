@@ -167,28 +167,28 @@ class StatusNotifierItemTest : public QObject {
         return reply.arguments().value(0).value<QDBusVariant>().variant();
     }
 
-    // The id of the X server's visible window with that exact title; empty while there is none.
-    QString visibleWindow(const QString &title) const
+    QString xdotool(const QStringList &arguments) const
     {
         QProcess xdotool;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("DISPLAY"), m_display);
         xdotool.setProcessEnvironment(environment);
-        xdotool.start(QStringLiteral("xdotool"), {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"), u'^' + title + u'$'});
+        xdotool.start(QStringLiteral("xdotool"), arguments);
         xdotool.waitForFinished();
-        return QString::fromLocal8Bit(xdotool.readAllStandardOutput()).section(u'\n', 0, 0).trimmed();
+        return QString::fromLocal8Bit(xdotool.readAllStandardOutput());
+    }
+
+    // The id of the X server's visible window with that exact title; empty while there is none.
+    QString visibleWindow(const QString &title) const
+    {
+        const QString found = xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"), u'^' + title + u'$'});
+        return found.section(u'\n', 0, 0).trimmed();
     }
 
     QRect windowGeometry(const QString &window) const
     {
-        QProcess xdotool;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DISPLAY"), m_display);
-        xdotool.setProcessEnvironment(environment);
-        xdotool.start(QStringLiteral("xdotool"), {QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), window});
-        xdotool.waitForFinished();
         QVariantMap values;
-        for (const QString &line : QString::fromLocal8Bit(xdotool.readAllStandardOutput()).split(u'\n'))
+        for (const QString &line : xdotool({QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), window}).split(u'\n'))
             values.insert(line.section(u'=', 0, 0), line.section(u'=', 1).toInt());
         return {values.value(QStringLiteral("X")).toInt(), values.value(QStringLiteral("Y")).toInt(),
                 values.value(QStringLiteral("WIDTH")).toInt(), values.value(QStringLiteral("HEIGHT")).toInt()};
