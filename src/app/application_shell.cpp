@@ -9,6 +9,7 @@
 #include "monitor/sleep_wake_notifier.h"
 #include "platform/native_desktop.h"
 #include "views/dashboard_view.h"
+#include "views/ferrow_style.h"
 #include "views/main_window_view.h"
 #include "views/view_painting.h"
 
@@ -195,15 +196,17 @@ void ApplicationShell::start()
 
 FerrowPalette ApplicationShell::currentPalette() const
 {
-    switch (readPreferences(m_settings).appearance) {
+    const Preferences preferences = readPreferences(m_settings);
+    const Contrast contrast = m_systemIncreasesContrast.value_or(preferences.increaseContrast) ? Contrast::increased : Contrast::standard;
+    switch (preferences.appearance) {
     case Appearance::light:
-        return {ColorScheme::light};
+        return {ColorScheme::light, contrast};
     case Appearance::dark:
-        return {ColorScheme::dark};
+        return {ColorScheme::dark, contrast};
     case Appearance::system:
         break;
     }
-    return {systemColorScheme()};
+    return {systemColorScheme(), contrast};
 }
 
 MainWindowView *ApplicationShell::openMainWindow()
@@ -247,7 +250,10 @@ bool ApplicationShell::hasVisibleWindow() const
 
 void ApplicationShell::applyAppearance()
 {
+    m_systemIncreasesContrast = systemIncreasesContrast();
     const FerrowPalette palette = currentPalette();
+    if (auto *style = dynamic_cast<FerrowStyle *>(QApplication::style()))
+        style->setContrast(palette.contrast);
     if (m_mainWindow)
         m_mainWindow->setFerrowPalette(palette);
     m_dashboard->setFerrowPalette(palette);

@@ -32,6 +32,9 @@ DeclaredVersions declaredVersions();
 
 // The system's reduce-motion accessibility setting, where the platform has one.
 std::optional<bool> systemReducesMotion();
+// The system's increase-contrast accessibility setting (a high-contrast theme on Linux), where
+// the platform has one and says so promptly.
+std::optional<bool> systemIncreasesContrast();
 // Makes the process a regular application, where the platform distinguishes.
 void prepareApplication();
 // Brings the application to the front, even while another application is active.

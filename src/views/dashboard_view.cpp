@@ -114,6 +114,7 @@ void DashboardView::setFerrowPalette(const FerrowPalette &palette)
 {
     m_palette = palette;
     m_header->setFerrowPalette(palette);
+    m_meters->setFerrowPalette(palette);
     m_meterCaption->setFerrowPalette(palette);
     m_flow->setFerrowPalette(palette);
     m_flowDivider->setFerrowPalette(palette);

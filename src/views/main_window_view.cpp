@@ -41,11 +41,6 @@ namespace {
 
 constexpr int kColumnMargin = 24; // around the detail column, and between its sections
 
-QColor windowBackground(const FerrowPalette &palette)
-{
-    return palette.isDark() ? QColor(36, 36, 39) : QColor(246, 246, 248);
-}
-
 QIcon glyphIcon(Glyph glyph, const QColor &color)
 {
     QPixmap pixmap(QSize(32, 32));
@@ -319,9 +314,9 @@ void MainWindowView::applyPalette()
 {
     const FerrowPalette &p = m_palette;
     QPalette window = palette();
-    window.setColor(QPalette::Window, windowBackground(p));
+    window.setColor(QPalette::Window, p.windowBackground());
     window.setColor(QPalette::WindowText, p.primaryText());
-    window.setColor(QPalette::Button, windowBackground(p));
+    window.setColor(QPalette::Button, p.windowBackground());
     window.setColor(QPalette::ButtonText, p.primaryText());
     setPalette(window);
     QPalette divider = window;
@@ -338,6 +333,7 @@ void MainWindowView::applyPalette()
     for (ReportPanel *panel : std::initializer_list<ReportPanel *>{m_distribution, m_chart, m_battery, m_cells, m_energy, m_sessions, m_batteryHealth, m_device})
         panel->setFerrowPalette(p);
     m_footer->setFerrowPalette(p);
+    m_meters->setFerrowPalette(p);
 }
 
 void MainWindowView::setSidebarShown(bool shown)

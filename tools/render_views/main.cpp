@@ -21,6 +21,7 @@
 #include "model/localized_text.h"
 #include "views/dashboard_view.h"
 #include "views/main_window_view.h"
+#include "views/ferrow_style.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -270,7 +271,7 @@ int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new FerrowStyle);
     QCoreApplication::setApplicationVersion(QStringLiteral(FERROW_VERSION));
     installTextTable(application);
     registerBrandFonts();

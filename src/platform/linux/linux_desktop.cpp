@@ -3,6 +3,10 @@
 #include "platform/linux/logind_sleep_notifier.h"
 #include "platform/linux/xdg_autostart_login_item.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+
 namespace ferrow {
 
 std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
@@ -13,6 +17,41 @@ std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
 std::unique_ptr<LoginItem> createLoginItem()
 {
     return std::make_unique<XdgAutostartLoginItem>();
+}
+
+namespace {
+
+// One setting through the desktop portal; nothing when no portal runs (none is started for this)
+// or it does not answer at once.
+std::optional<QVariant> portalSetting(const QString &group, const QString &key)
+{
+    QDBusMessage read = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.portal.Desktop"), QStringLiteral("/org/freedesktop/portal/desktop"),
+                                                       QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("Read"));
+    read.setArguments({group, key});
+    read.setAutoStartService(false);
+    constexpr int kTimeoutMs = 300;
+    const QDBusMessage reply = QDBusConnection::sessionBus().call(read, QDBus::Block, kTimeoutMs);
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
+        return std::nullopt;
+    // The answer comes wrapped in a variant, by some portals in two.
+    QVariant value = reply.arguments().constFirst();
+    for (int depth = 0; depth < 2 && value.canConvert<QDBusVariant>(); ++depth)
+        value = value.value<QDBusVariant>().variant();
+    return value;
+}
+
+} // namespace
+
+std::optional<bool> systemIncreasesContrast()
+{
+    // Either asks for it; neither saying so leaves the choice to the user's preference.
+    const std::optional<QVariant> contrast = portalSetting(QStringLiteral("org.freedesktop.appearance"), QStringLiteral("contrast"));
+    if (contrast && contrast->canConvert<uint>() && contrast->toUInt() == 1) // 0: no preference, 1: higher contrast
+        return true;
+    const std::optional<QVariant> highContrast = portalSetting(QStringLiteral("org.gnome.desktop.a11y.interface"), QStringLiteral("high-contrast"));
+    if (highContrast && highContrast->typeId() == QMetaType::Bool && highContrast->toBool())
+        return true;
+    return std::nullopt;
 }
 
 } // namespace ferrow

@@ -120,6 +120,11 @@ std::optional<bool> systemReducesMotion()
     return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceMotion;
 }
 
+std::optional<bool> systemIncreasesContrast()
+{
+    return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldIncreaseContrast;
+}
+
 void prepareApplication()
 {
     [NSApp setActivationPolicy:NSApplicationActivationPolicyRegular];

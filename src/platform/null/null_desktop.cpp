@@ -24,4 +24,9 @@ std::unique_ptr<LoginItem> createLoginItem()
     return std::make_unique<NoLoginItem>();
 }
 
+std::optional<bool> systemIncreasesContrast()
+{
+    return std::nullopt;
+}
+
 } // namespace ferrow
