@@ -316,7 +316,7 @@ void ApplicationShell::togglePopover()
     m_window->show();
     m_window->raise();
     m_window->activateWindow();
-    m_dashboard->setFocus();
+    m_dashboard->focusFirstControl();
     m_monitor->start();
 }
 
@@ -328,6 +328,9 @@ bool ApplicationShell::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_window.get()) {
         if (event->type() == QEvent::KeyPress && m_menuBarItem && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
             m_window->hide();
+            // The keyboard goes back to the window it came from, where that is ours.
+            if (m_mainWindow && m_mainWindow->isVisible())
+                m_mainWindow->activateWindow();
             return true;
         }
         if (event->type() == QEvent::WindowDeactivate && m_menuBarItem && m_window->isVisible()) {

@@ -63,6 +63,8 @@ int main(int argc, char *argv[])
         QTextStream(stderr) << "ferrow: " << error << Qt::endl;
         return 1;
     }
+    if (!machine->isMac)
+        nameMachineAComputer(application);
     const std::shared_ptr<const void> onPace = keepTimersOnPace(); // for the life of the process
     ApplicationShell shell(std::move(*machine), createSleepWakeNotifier(), createLoginItem(), createMenuBarItem());
     shell.start();

@@ -163,6 +163,11 @@ void DashboardView::setReduceMotion(bool reduceMotion)
     m_header->setReduceMotion(reduceMotion);
 }
 
+void DashboardView::focusFirstControl()
+{
+    m_details->setFocus(Qt::TabFocusReason);
+}
+
 void DashboardView::paintEvent(QPaintEvent *)
 {
     if (!m_paintsBackground)

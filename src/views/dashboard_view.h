@@ -43,6 +43,8 @@ public:
     void setPaintsBackground(bool paints);
     void setShowPowerInMenuBar(bool shown);
     void setReduceMotion(bool reduceMotion);
+    // The keyboard starts on the first control that does something here, not on the brand link.
+    void focusFirstControl();
     PowerFlowView *flowView() const { return m_flow; }
 
 signals:

@@ -116,9 +116,8 @@ void MainWindowView::buildToolbar()
     auto *titleColumn = new QVBoxLayout(titles);
     titleColumn->setContentsMargins(8, 2, 8, 2);
     titleColumn->setSpacing(0);
-    m_toolbarTitle = fontLabel(uiFont(13, QFont::DemiBold), localizedText("window.device_details"));
-    m_toolbarSubtitle = fontLabel(uiFont(11), localizedText("app.subtitle"));
-    titleColumn->addWidget(m_toolbarTitle);
+    // The window's title bar carries the title; the toolbar says what the window holds.
+    m_toolbarSubtitle = fontLabel(uiFont(12), localizedText("app.subtitle"));
     titleColumn->addWidget(m_toolbarSubtitle);
     toolbar->addWidget(titles);
     auto *spring = new QWidget;
@@ -132,6 +131,9 @@ void MainWindowView::buildToolbar()
     refresh->setIcon(glyphIcon(Glyph::refresh, FixedColor::macBlue));
     connect(refresh, &QToolButton::clicked, this, &MainWindowView::refreshRequested);
     toolbar->addWidget(refresh);
+    // A toolbar's buttons take no focus by default; these are the window's first stops for Tab.
+    for (QWidget *button : {toolbar->widgetForAction(m_sidebarToggle), static_cast<QWidget *>(refresh)})
+        button->setFocusPolicy(Qt::TabFocus);
 }
 
 QWidget *MainWindowView::buildDetail()
