@@ -23,6 +23,7 @@
 #include <QToolButton>
 #include <QValueAxis>
 
+#include <algorithm>
 #include <cmath>
 
 namespace ferrow {
@@ -244,6 +245,12 @@ void PowerHistoryChart::setFerrowPalette(const FerrowPalette &palette)
     for (Statistic *statistic : {m_average, m_peak})
         statistic->setColours(palette.secondaryText(), palette.primaryText());
     styleSegmentedPicker(*findChild<QWidget *>(QStringLiteral("windowPicker")), m_windowChoices->buttons(), palette, palette.reportPanelBackground());
+    // The last mark can sit on the plot's right edge, its label centred on it: room for half a label.
+    const QFontMetricsF markMetrics(uiFont(10));
+    double widestMark = 0;
+    for (const QTime time : {QTime(10, 58), QTime(22, 58)})
+        widestMark = std::max(widestMark, markMetrics.horizontalAdvance(timeOfDayText(time, QLocale(), Seconds::hidden)));
+    m_chart->setMargins(QMargins(0, 4, static_cast<int>(std::ceil(widestMark / 2)) + 2, 0));
     for (QAbstractAxis *axis : {static_cast<QAbstractAxis *>(m_timeAxis), static_cast<QAbstractAxis *>(m_valueAxis)}) {
         axis->setLabelsColor(palette.secondaryText());
         axis->setLabelsFont(uiFont(10));
