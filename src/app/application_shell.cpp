@@ -83,6 +83,11 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     m_window->setFixedSize(m_window->sizeHint());
     m_hasPopoverMaterial = m_menuBarItem && usePopoverMaterial(*m_window);
     m_dashboard->setPaintsBackground(!m_hasPopoverMaterial);
+    if (m_menuBarItem && !m_hasPopoverMaterial) {
+        const bool rounded = windowSystemComposites();
+        m_window->setAttribute(Qt::WA_TranslucentBackground, rounded);
+        m_dashboard->setFrame(rounded ? DashboardView::Frame::rounded : DashboardView::Frame::square);
+    }
 
     m_dashboard->setSubtitle(localizedText(machine.subtitleKey));
     m_dashboard->setVersion(applicationVersionText());
@@ -261,7 +266,7 @@ void ApplicationShell::applyAppearance()
     windowPalette.setColor(QPalette::Window, palette.panelBackground());
     windowPalette.setColor(QPalette::WindowText, palette.secondaryText());
     m_window->setPalette(windowPalette);
-    m_window->setAutoFillBackground(!m_hasPopoverMaterial);
+    m_window->setAutoFillBackground(!m_hasPopoverMaterial && !m_window->testAttribute(Qt::WA_TranslucentBackground));
 }
 
 void ApplicationShell::showSnapshot()

@@ -45,5 +45,8 @@ void onApplicationReopen(std::function<void()> handler);
 // Puts the platform's popover material behind window, where it has one; false elsewhere, and
 // then the window paints its own background.
 bool usePopoverMaterial(QWidget &window);
+// Whether the window system composites windows, so that a window may have translucent (rounded)
+// corners.
+bool windowSystemComposites();
 
 } // namespace ferrow

@@ -4,6 +4,13 @@
 #include "platform/linux/xdg_autostart_login_item.h"
 
 #include <QDBusConnection>
+#include <QGuiApplication>
+#include <QtGui/qguiapplication_platform.h>
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+
 #include <QDBusMessage>
 #include <QDBusVariant>
 
@@ -41,6 +48,30 @@ std::optional<QVariant> portalSetting(const QString &group, const QString &key)
 }
 
 } // namespace
+
+bool windowSystemComposites()
+{
+    if (QGuiApplication::platformName() == u"wayland")
+        return true;
+    auto *x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    if (!x11 || !x11->connection())
+        return false;
+    // A compositing manager owns the selection _NET_WM_CM_Sn of the X screen it composites; the
+    // toolkit opens one X screen, the first, across all monitors.
+    xcb_connection_t *connection = x11->connection();
+    const QByteArray name = QByteArrayLiteral("_NET_WM_CM_S0");
+    xcb_intern_atom_reply_t *atom = xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 1, static_cast<uint16_t>(name.size()), name.constData()), nullptr);
+    if (!atom)
+        return false;
+    const xcb_atom_t selection = atom->atom;
+    std::free(atom);
+    if (selection == XCB_ATOM_NONE)
+        return false;
+    xcb_get_selection_owner_reply_t *owner = xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, selection), nullptr);
+    const bool composited = owner && owner->owner != XCB_WINDOW_NONE;
+    std::free(owner);
+    return composited;
+}
 
 std::optional<bool> systemIncreasesContrast()
 {

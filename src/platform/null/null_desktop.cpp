@@ -29,4 +29,9 @@ std::optional<bool> systemIncreasesContrast()
     return std::nullopt;
 }
 
+bool windowSystemComposites()
+{
+    return false;
+}
+
 } // namespace ferrow
