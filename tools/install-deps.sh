@@ -14,7 +14,7 @@ install_debian() {
     [ "${1:-}" = "--test" ] && extra_packages=(python3 apache2-utils dbus-daemon xvfb xdotool) && tools=(prometheus)
     local packages=("${extra_packages[@]}" cmake ninja-build g++ make
         qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-charts-dev libqt6sql6-sqlite
-        qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
+        qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev libxcb1-dev
         libbenchmark-dev fonts-dejavu-core)
     local missing=() missing_tools=()
     for package in "${packages[@]}"; do

@@ -7,6 +7,7 @@
 #include "app/text_table.h"
 #include "platform/native_desktop.h"
 #include "platform/native_machine.h"
+#include "views/ferrow_style.h"
 
 #include <QApplication>
 #include <QTextStream>
@@ -50,7 +51,7 @@ int main(int argc, char *argv[])
     prepareEnvironment();
     QApplication application(argc, argv);
     nameApplication();
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new FerrowStyle);
     QApplication::setQuitOnLastWindowClosed(false); // the tray item lives on with every window closed
     prepareApplication();
     installTextTable(application);
@@ -62,6 +63,8 @@ int main(int argc, char *argv[])
         QTextStream(stderr) << "ferrow: " << error << Qt::endl;
         return 1;
     }
+    if (!machine->isMac)
+        nameMachineAComputer(application);
     const std::shared_ptr<const void> onPace = keepTimersOnPace(); // for the life of the process
     ApplicationShell shell(std::move(*machine), createSleepWakeNotifier(), createLoginItem(), createMenuBarItem());
     shell.start();

@@ -178,7 +178,7 @@ private slots:
 
         // What one program writes, the other reads back as it was.
         QSettings writer(file, QSettings::IniFormat);
-        const Preferences chosen{!read, true, Appearance::dark};
+        const Preferences chosen{!read, true, true, Appearance::dark};
         QVERIFY(writePreferences(writer, chosen));
         QCOMPARE(readPreferences(writer), chosen);
         QCOMPARE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions()); // the user's alone

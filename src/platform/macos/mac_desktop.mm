@@ -120,6 +120,16 @@ std::optional<bool> systemReducesMotion()
     return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceMotion;
 }
 
+bool windowSystemComposites()
+{
+    return true;
+}
+
+std::optional<bool> systemIncreasesContrast()
+{
+    return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldIncreaseContrast;
+}
+
 void prepareApplication()
 {
     [NSApp setActivationPolicy:NSApplicationActivationPolicyRegular];

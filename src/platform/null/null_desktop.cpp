@@ -29,4 +29,14 @@ std::unique_ptr<LoginItem> createLoginItem()
     return std::make_unique<NoLoginItem>();
 }
 
+std::optional<bool> systemIncreasesContrast()
+{
+    return std::nullopt;
+}
+
+bool windowSystemComposites()
+{
+    return false;
+}
+
 } // namespace ferrow

@@ -15,6 +15,7 @@ public:
     void setReduceMotion(bool reduceMotion);
 
 protected:
+    void ferrowPaletteChanged() override;
     void paintEvent(QPaintEvent *event) override;
     bool paintsDifferently(const PowerSnapshot &shown, const PowerSnapshot &next) const override;
 
