@@ -72,6 +72,8 @@ else()
     install(DIRECTORY ${icon_dir} DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)
     install(FILES ${PROJECT_SOURCE_DIR}/resources/icons/ferrow.svg
             DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps RENAME ${app_id}.svg)
+    install(DIRECTORY ${PROJECT_BINARY_DIR}/src/app/icons/hicolor/scalable/status
+            DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable)
     install(FILES ${linux_resources}/copyright ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz
                   ${PROJECT_SOURCE_DIR}/resources/fonts/OFL.txt
             DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ferrow)

@@ -8,13 +8,14 @@ install_debian() {
     [ "${1:-}" = "--macos-check" ] && extra_packages=(clang llvm python3)
     [ "${1:-}" = "--package" ] && extra_packages=(dpkg-dev file lintian desktop-file-utils appstream)
     # `make test` scrapes ferrow-cli --serve with a real Prometheus and loads it with ab
-    # (apache2-utils, a client only), and reads the application's windows as a screen reader does
-    # (pyatspi on a private session bus, under Xvfb); without them those tests skip.
+    # (apache2-utils, a client only), plays a panel to the tray item on a private session bus
+    # and X server (dbus-daemon, Xvfb, xdotool), and reads the application's windows as a screen
+    # reader does there (pyatspi and the accessibility bus); without them those tests skip.
     local tools=()
-    [ "${1:-}" = "--test" ] && extra_packages=(python3 apache2-utils python3-pyatspi at-spi2-core dbus xvfb) && tools=(prometheus)
+    [ "${1:-}" = "--test" ] && extra_packages=(python3 apache2-utils dbus-daemon xvfb xdotool python3-pyatspi at-spi2-core) && tools=(prometheus)
     local packages=("${extra_packages[@]}" cmake ninja-build g++ make
         qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-charts-dev libqt6sql6-sqlite
-        qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev
+        qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev libxcb1-dev
         libbenchmark-dev fonts-dejavu-core)
     local missing=() missing_tools=()
     for package in "${packages[@]}"; do

@@ -603,6 +603,22 @@
         <source>Delete history</source>
         <translation>Verlauf löschen</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>Dieser Computer läuft nur mit externer Stromversorgung.</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>Dieser Computer hat keinen Akku; die gesamte Energie kommt aus seinem Netzteil.</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>Dieser Computer</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>nicht verfügbar</translation>

@@ -603,6 +603,22 @@
         <source>Delete history</source>
         <translation>Delete history</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>This computer runs on external power only.</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>This computer has no battery; all power comes from its supply.</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>This computer</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>not available</translation>

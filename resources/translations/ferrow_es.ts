@@ -603,6 +603,22 @@
         <source>Delete history</source>
         <translation>Eliminar historial</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>Sistema</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>Este ordenador funciona solo con alimentación externa.</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>Este ordenador no tiene batería; toda la energía procede de su fuente de alimentación.</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>Este ordenador</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>no disponible</translation>

@@ -603,6 +603,22 @@
         <source>Delete history</source>
         <translation>Supprimer l’historique</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>Système</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>Cet ordinateur fonctionne uniquement sur alimentation externe.</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>Cet ordinateur n’a pas de batterie ; toute l’énergie vient de son alimentation.</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>Cet ordinateur</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>non disponible</translation>

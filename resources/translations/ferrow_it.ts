@@ -603,6 +603,22 @@
         <source>Delete history</source>
         <translation>Elimina cronologia</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>Sistema</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>Questo computer funziona solo con alimentazione esterna.</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>Questo computer non ha batteria; tutta l’energia arriva dal suo alimentatore.</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>Questo computer</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>non disponibile</translation>

@@ -599,6 +599,22 @@
         <source>Delete history</source>
         <translation>履歴を削除</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>システム</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>このコンピュータは外部電源のみで動作します。</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>このコンピュータにはバッテリーがなく、すべての電力を電源から得ています。</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>このコンピュータ</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>利用できません</translation>

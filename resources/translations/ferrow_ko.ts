@@ -599,6 +599,22 @@
         <source>Delete history</source>
         <translation>기록 삭제</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>시스템</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>이 컴퓨터는 외부 전원으로만 작동합니다.</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>이 컴퓨터에는 배터리가 없으며 모든 전력은 전원 장치에서 공급됩니다.</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>이 컴퓨터</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>사용할 수 없음</translation>

@@ -603,6 +603,22 @@
         <source>Delete history</source>
         <translation>Geschiedenis verwijderen</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>Systeem</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>Deze computer werkt alleen op externe voeding.</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>Deze computer heeft geen batterij; alle stroom komt van de voeding.</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>Deze computer</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>niet beschikbaar</translation>

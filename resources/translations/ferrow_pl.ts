@@ -607,6 +607,22 @@
         <source>Delete history</source>
         <translation>Usuń historię</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>Ten komputer działa wyłącznie na zasilaniu zewnętrznym.</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>Ten komputer nie ma baterii; całą energię dostarcza jego zasilacz.</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>Ten komputer</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>niedostępne</translation>

@@ -603,6 +603,22 @@
         <source>Delete history</source>
         <translation>Apagar histórico</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>Sistema</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>Este computador funciona apenas com alimentação externa.</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>Este computador não tem bateria; toda a energia vem da sua fonte.</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>Este computador</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>indisponível</translation>

@@ -607,6 +607,22 @@
         <source>Delete history</source>
         <translation>Удалить историю</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>Система</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>Этот компьютер работает только от внешнего питания.</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>У этого компьютера нет аккумулятора; вся энергия поступает от блока питания.</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>Этот компьютер</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>нет данных</translation>

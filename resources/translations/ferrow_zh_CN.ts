@@ -599,6 +599,22 @@
         <source>Delete history</source>
         <translation>删除历史</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>系统</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>这台电脑仅使用外部电源。</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>这台电脑没有电池；所有电力都来自其电源。</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>这台电脑</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>不可用</translation>

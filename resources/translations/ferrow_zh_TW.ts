@@ -599,6 +599,22 @@
         <source>Delete history</source>
         <translation>刪除歷史</translation>
     </message>
+    <message id="power.computer_system">
+        <source>System</source>
+        <translation>系統</translation>
+    </message>
+    <message id="battery.computer_external_only">
+        <source>This computer runs on external power only.</source>
+        <translation>這台電腦僅使用外部電源。</translation>
+    </message>
+    <message id="overview.computer_no_battery_subtitle">
+        <source>This computer has no battery; all power comes from its supply.</source>
+        <translation>這台電腦沒有電池；所有電力都來自其電源供應器。</translation>
+    </message>
+    <message id="device.computer_title">
+        <source>This computer</source>
+        <translation>這台電腦</translation>
+    </message>
     <message id="accessibility.not_available">
         <source>not available</source>
         <translation>無法使用</translation>

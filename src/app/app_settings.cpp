@@ -44,6 +44,7 @@ Preferences readPreferences(const QSettings &settings)
     Preferences preferences;
     readBool(settings, PreferenceKey::showPowerInMenuBar, preferences.showPowerInMenuBar);
     readBool(settings, PreferenceKey::reduceMotion, preferences.reduceMotion);
+    readBool(settings, PreferenceKey::increaseContrast, preferences.increaseContrast);
     readBool(settings, PreferenceKey::keepHistory, preferences.keepHistory);
     const QString appearance = settings.value(PreferenceKey::appearance).toString().trimmed().toLower();
     for (const auto &[value, name] : kAppearances) {
@@ -57,6 +58,7 @@ bool writePreferences(QSettings &settings, const Preferences &preferences)
 {
     settings.setValue(PreferenceKey::showPowerInMenuBar, preferences.showPowerInMenuBar);
     settings.setValue(PreferenceKey::reduceMotion, preferences.reduceMotion);
+    settings.setValue(PreferenceKey::increaseContrast, preferences.increaseContrast);
     settings.setValue(PreferenceKey::keepHistory, preferences.keepHistory);
     for (const auto &[value, name] : kAppearances) {
         if (value == preferences.appearance)

@@ -10,7 +10,8 @@ enum class Appearance { system, light, dark };
 // Every preference the programs keep, each with its type and its default.
 struct Preferences {
     bool showPowerInMenuBar = true;
-    bool reduceMotion = false; // where the system has no setting of its own
+    bool reduceMotion = false;     // where the system has no setting of its own
+    bool increaseContrast = false; // likewise
     Appearance appearance = Appearance::system;
     bool keepHistory = true; // the energy history database
 
@@ -21,6 +22,7 @@ struct Preferences {
 namespace PreferenceKey {
 inline const QString showPowerInMenuBar = QStringLiteral("showPowerInMenuBar");
 inline const QString reduceMotion = QStringLiteral("reduceMotion");
+inline const QString increaseContrast = QStringLiteral("increaseContrast");
 inline const QString appearance = QStringLiteral("appearance"); // "system", "light" or "dark"
 inline const QString keepHistory = QStringLiteral("keepHistory");
 } // namespace PreferenceKey

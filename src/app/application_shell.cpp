@@ -9,6 +9,7 @@
 #include "monitor/sleep_wake_notifier.h"
 #include "platform/native_desktop.h"
 #include "views/dashboard_view.h"
+#include "views/ferrow_style.h"
 #include "views/main_window_view.h"
 #include "views/view_painting.h"
 
@@ -82,6 +83,11 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     m_window->setFixedSize(m_window->sizeHint());
     m_hasPopoverMaterial = m_menuBarItem && usePopoverMaterial(*m_window);
     m_dashboard->setPaintsBackground(!m_hasPopoverMaterial);
+    if (m_menuBarItem && !m_hasPopoverMaterial) {
+        const bool rounded = windowSystemComposites();
+        m_window->setAttribute(Qt::WA_TranslucentBackground, rounded);
+        m_dashboard->setFrame(rounded ? DashboardView::Frame::rounded : DashboardView::Frame::square);
+    }
 
     m_dashboard->setSubtitle(localizedText(machine.subtitleKey));
     m_dashboard->setVersion(applicationVersionText());
@@ -195,15 +201,17 @@ void ApplicationShell::start()
 
 FerrowPalette ApplicationShell::currentPalette() const
 {
-    switch (readPreferences(m_settings).appearance) {
+    const Preferences preferences = readPreferences(m_settings);
+    const Contrast contrast = m_systemIncreasesContrast.value_or(preferences.increaseContrast) ? Contrast::increased : Contrast::standard;
+    switch (preferences.appearance) {
     case Appearance::light:
-        return {ColorScheme::light};
+        return {ColorScheme::light, contrast};
     case Appearance::dark:
-        return {ColorScheme::dark};
+        return {ColorScheme::dark, contrast};
     case Appearance::system:
         break;
     }
-    return {systemColorScheme()};
+    return {systemColorScheme(), contrast};
 }
 
 MainWindowView *ApplicationShell::openMainWindow()
@@ -247,7 +255,10 @@ bool ApplicationShell::hasVisibleWindow() const
 
 void ApplicationShell::applyAppearance()
 {
+    m_systemIncreasesContrast = systemIncreasesContrast();
     const FerrowPalette palette = currentPalette();
+    if (auto *style = dynamic_cast<FerrowStyle *>(QApplication::style()))
+        style->setContrast(palette.contrast);
     if (m_mainWindow)
         m_mainWindow->setFerrowPalette(palette);
     m_dashboard->setFerrowPalette(palette);
@@ -255,7 +266,7 @@ void ApplicationShell::applyAppearance()
     windowPalette.setColor(QPalette::Window, palette.panelBackground());
     windowPalette.setColor(QPalette::WindowText, palette.secondaryText());
     m_window->setPalette(windowPalette);
-    m_window->setAutoFillBackground(!m_hasPopoverMaterial);
+    m_window->setAutoFillBackground(!m_hasPopoverMaterial && !m_window->testAttribute(Qt::WA_TranslucentBackground));
 }
 
 void ApplicationShell::showSnapshot()
@@ -310,7 +321,7 @@ void ApplicationShell::togglePopover()
     m_window->show();
     m_window->raise();
     m_window->activateWindow();
-    m_dashboard->setFocus();
+    m_dashboard->focusFirstControl();
     m_monitor->start();
 }
 
@@ -322,6 +333,9 @@ bool ApplicationShell::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_window.get()) {
         if (event->type() == QEvent::KeyPress && m_menuBarItem && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
             m_window->hide();
+            // The keyboard goes back to the window it came from, where that is ours.
+            if (m_mainWindow && m_mainWindow->isVisible())
+                m_mainWindow->activateWindow();
             return true;
         }
         if (event->type() == QEvent::WindowDeactivate && m_menuBarItem && m_window->isVisible()) {

@@ -73,6 +73,7 @@ private:
     QElapsedTimer m_sinceHistoryOverview;
     bool m_hasShownReading = false;
     bool m_hasPopoverMaterial = false; // the platform's translucent material behind the popover
+    std::optional<bool> m_systemIncreasesContrast; // read again when the system's appearance changes
 
 };
 

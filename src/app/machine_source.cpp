@@ -74,6 +74,7 @@ OpenedMachine openedFrom(NativeMachine native)
 {
     OpenedMachine opened{std::move(native.reader), std::move(native.description)};
     opened.chipPowerNeedsPermission = native.chipPowerNeedsPermission;
+    opened.isMac = native.isMac;
     return opened;
 }
 

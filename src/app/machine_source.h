@@ -29,6 +29,8 @@ struct OpenedMachine {
     const char *subtitleKey = "app.menu_subtitle"; // the dashboard's subtitle, naming a simulation as such
     // The processor's energy counters are there but only root may read them (see the README).
     bool chipPowerNeedsPermission = false;
+    // A Mac, or a recording or simulation of one; otherwise the texts say "this computer".
+    bool isMac = true;
 };
 
 // Opens the machine, or explains in one line why it could not be opened.

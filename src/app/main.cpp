@@ -8,6 +8,7 @@
 #include "platform/native_desktop.h"
 #include "platform/native_machine.h"
 #include "views/accessible_content.h"
+#include "views/ferrow_style.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -71,7 +72,7 @@ int main(int argc, char *argv[])
     prepareEnvironment();
     QApplication application(argc, argv);
     nameApplication();
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new FerrowStyle);
     QApplication::setQuitOnLastWindowClosed(false); // the tray item lives on with every window closed
     prepareApplication();
     installTextTable(application);
@@ -87,6 +88,8 @@ int main(int argc, char *argv[])
         QTextStream(stderr) << "ferrow: " << error << Qt::endl;
         return 1;
     }
+    if (!machine->isMac)
+        nameMachineAComputer(application);
     const std::shared_ptr<const void> onPace = keepTimersOnPace(); // for the life of the process
     ApplicationShell shell(std::move(*machine), createSleepWakeNotifier(), createLoginItem(), createMenuBarItem());
     shell.start();

@@ -12,6 +12,72 @@
 #include <cmath>
 
 namespace ferrow {
+namespace {
+
+// Below this a tray icon's figure is a smudge; the icon then shows the glyph alone.
+constexpr int kLegibleFigurePx = 11;
+
+// The number in the table's layout around the figure, which is never handed to printf as a format.
+QString figureInLayout(const QString &number)
+{
+    QString text = localizedText("%.1f W");
+    if (!text.contains(QLatin1String("%.1f")))
+        text = QStringLiteral("%.1f W");
+    return text.replace(QLatin1String("%.1f"), number);
+}
+
+// The largest text of the figure that fits the icon's width, with its unit where there is room;
+// none where even the bare figure would be too small to read.
+std::optional<std::pair<QString, QFont>> fitTrayFigure(const QString &figure, int side)
+{
+    const double width = side * 0.92;
+    const int largest = qRound(side * 0.42);
+    QFont font = uiFont(1, QFont::Bold);
+    for (const QString &candidate : {figure + QStringLiteral(" W"), figure + u'W', figure}) {
+        font.setPixelSize(largest);
+        while (font.pixelSize() > kLegibleFigurePx && QFontMetricsF(font).horizontalAdvance(candidate) > width)
+            font.setPixelSize(font.pixelSize() - 1);
+        if (QFontMetricsF(font).horizontalAdvance(candidate) > width || font.pixelSize() < kLegibleFigurePx)
+            continue;
+        if (font.pixelSize() == largest || candidate == figure)
+            return std::pair{candidate, font};
+    }
+    return std::nullopt;
+}
+
+QImage renderTrayImage(const MenuBarReading &reading, int side)
+{
+    // Panels are light or dark and Qt cannot tell which, so the icon brings its own ground: a dark
+    // tile with white content reads on both.
+    const QColor tile(28, 28, 32, 235);
+    const QColor ink(Qt::white);
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    const QRectF box(0, 0, side, side);
+    painter.drawPixmap(0, 0, cachedDrawing(QStringLiteral("tray-tile"), box.size(), 1.0, [&](QPainter &ground) {
+        QPainterPath shape;
+        shape.addRoundedRect(box, side * 0.22, side * 0.22);
+        ground.fillPath(shape, tile);
+    }));
+    const Glyph glyph = menuBarGlyph(reading);
+    const auto figure = reading.showsPower ? fitTrayFigure(trayIconFigure(reading.powerW), side) : std::nullopt;
+    if (!figure) {
+        paintGlyph(painter, glyph, box.adjusted(side * 0.1, side * 0.1, -side * 0.1, -side * 0.1), ink);
+        return image;
+    }
+    paintGlyph(painter, glyph, QRectF(side * 0.2, side * 0.04, side * 0.6, side * 0.44), ink);
+    const auto &[text, font] = *figure;
+    const QFontMetricsF metrics(font);
+    painter.setFont(font);
+    painter.setPen(ink);
+    const double baseline = side * 0.46 + (side * 0.54 + metrics.capHeight()) / 2;
+    painter.drawText(QPointF((side - metrics.horizontalAdvance(text)) / 2, baseline), text);
+    return image;
+}
+
+} // namespace
 
 Glyph menuBarGlyph(const MenuBarReading &reading)
 {
@@ -23,11 +89,12 @@ QString menuBarFigureText(const PowerSnapshot &snapshot)
     const std::optional<double> powerW = snapshot.displayPowerW();
     if (!powerW || !std::isfinite(*powerW))
         return localizedText("— W");
-    // The table's text is a layout around the figure, never handed to printf as a format.
-    QString text = localizedText("%.1f W");
-    if (!text.contains(QLatin1String("%.1f")))
-        text = QStringLiteral("%.1f W");
-    return text.replace(QLatin1String("%.1f"), QString::asprintf("%.1f", *powerW));
+    return figureInLayout(QString::asprintf("%.1f", *powerW));
+}
+
+QString menuBarFigureGuide()
+{
+    return figureInLayout(QStringLiteral("-888.8"));
 }
 
 QString trayIconFigure(std::optional<double> powerW)
@@ -39,7 +106,7 @@ QString trayIconFigure(std::optional<double> powerW)
 
 MenuBarReading menuBarReading(const PowerSnapshot &snapshot, bool showPower, const QString &toolTip)
 {
-    return {snapshot.isExternalConnected, snapshot.displayPowerW(), menuBarFigureText(snapshot), showPower, toolTip};
+    return {snapshot.isExternalConnected, snapshot.displayPowerW(), menuBarFigureText(snapshot), menuBarFigureGuide(), showPower, toolTip};
 }
 
 QIcon renderTrayIcon(const PowerSnapshot &snapshot, bool showPower)
@@ -49,50 +116,18 @@ QIcon renderTrayIcon(const PowerSnapshot &snapshot, bool showPower)
 
 QIcon renderTrayIcon(const MenuBarReading &reading)
 {
-    // Panels are light or dark and Qt cannot tell which, so the icon brings its own ground: a dark
-    // tile with white content reads on both.
-    const QColor tile(28, 28, 32, 235);
-    const QColor ink(Qt::white);
-    const QString figure = trayIconFigure(reading.powerW);
-    const Glyph glyph = menuBarGlyph(reading);
     QIcon icon;
-    for (const int side : {16, 22, 24, 32, 48}) { // what panels ask for; larger ones cost fills for nothing
-        QPixmap pixmap(side, side);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-        const QRectF box(0, 0, side, side);
-        painter.drawPixmap(0, 0, cachedDrawing(QStringLiteral("tray-tile"), box.size(), 1.0, [&](QPainter &ground) {
-            QPainterPath shape;
-            shape.addRoundedRect(box, side * 0.22, side * 0.22);
-            ground.fillPath(shape, tile);
-        }));
-        if (!reading.showsPower) {
-            paintGlyph(painter, glyph, box.adjusted(side * 0.18, side * 0.18, -side * 0.18, -side * 0.18), ink);
-        } else {
-            paintGlyph(painter, glyph, QRectF(side * 0.27, side * 0.05, side * 0.46, side * 0.38), ink);
-            // The largest figure that fits the width, with its unit where there is room for it.
-            const double width = side * 0.92;
-            QFont font = uiFont(1, QFont::Bold);
-            QString text = figure;
-            for (const QString &candidate : {figure + QStringLiteral(" W"), figure + u'W', figure}) {
-                font.setPixelSize(qRound(side * 0.5));
-                while (font.pixelSize() > 6 && QFontMetricsF(font).horizontalAdvance(candidate) > width)
-                    font.setPixelSize(font.pixelSize() - 1);
-                text = candidate;
-                if (font.pixelSize() >= side * 0.42)
-                    break;
-            }
-            const QFontMetricsF metrics(font);
-            painter.setFont(font);
-            painter.setPen(ink);
-            const double baseline = side * 0.44 + (side * 0.56 + metrics.capHeight()) / 2;
-            painter.drawText(QPointF((side - metrics.horizontalAdvance(text)) / 2, baseline), text);
-        }
-        painter.end();
-        icon.addPixmap(pixmap);
-    }
+    for (const int side : {16, 22, 24, 32, 48}) // what panels ask for; larger ones cost fills for nothing
+        icon.addPixmap(QPixmap::fromImage(renderTrayImage(reading, side)));
     return icon;
+}
+
+QImage renderTraySymbol(bool onExternalPower, int side)
+{
+    MenuBarReading symbol;
+    symbol.onExternalPower = onExternalPower;
+    symbol.showsPower = false;
+    return renderTrayImage(symbol, side);
 }
 
 } // namespace ferrow

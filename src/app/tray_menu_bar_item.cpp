@@ -1,18 +1,14 @@
 #include "app/tray_menu_bar_item.h"
 
 #include "app/menu_bar_label.h"
-#include "model/localized_text.h"
+#include "platform/menu_bar_menu.h"
 #include "platform/native_desktop.h"
-
-#include <QCoreApplication>
 
 namespace ferrow {
 
 TrayMenuBarItem::TrayMenuBarItem()
 {
-    m_menu.addAction(localizedText("action.show_dashboard"), this, &MenuBarItem::activated);
-    m_menu.addSeparator();
-    m_menu.addAction(localizedText("action.quit"), qApp, &QCoreApplication::quit);
+    addMenuBarItemActions(m_menu, *this);
     m_tray.setContextMenu(&m_menu);
     connect(&m_tray, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
@@ -35,7 +31,7 @@ void TrayMenuBarItem::showReading(const MenuBarReading &reading)
 
 std::unique_ptr<MenuBarItem> createMenuBarItem()
 {
-    if (std::unique_ptr<MenuBarItem> native = createNativeMenuBarItem())
+    if (std::unique_ptr<MenuBarItem> native = createNativeMenuBarItem(&renderTraySymbol))
         return native;
     if (!QSystemTrayIcon::isSystemTrayAvailable())
         return nullptr;

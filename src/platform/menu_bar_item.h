@@ -4,7 +4,10 @@
 #include <QRect>
 #include <QString>
 
+#include <functional>
 #include <optional>
+
+class QImage;
 
 namespace ferrow {
 
@@ -13,6 +16,7 @@ struct MenuBarReading {
     bool onExternalPower = false; // the bolt; the battery otherwise
     std::optional<double> powerW; // the headline figure, absent before the first reading
     QString figureText;           // the figure as the menu bar shows it: "12.3 W"
+    QString figureGuide;          // the widest figureText can be, so that a panel keeps the item's width
     bool showsPower = true;       // the figure beside the symbol, as the user chose
     QString toolTip;              // always carries the figure
 
@@ -33,5 +37,9 @@ public:
 signals:
     void activated();
 };
+
+// Draws the item's symbol (the bolt on external power, the battery otherwise) as a side x side
+// picture, for a panel that takes pictures rather than icon names.
+using MenuBarSymbolPainter = std::function<QImage(bool onExternalPower, int side)>;
 
 } // namespace ferrow

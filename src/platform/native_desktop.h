@@ -18,7 +18,7 @@ namespace ferrow {
 // platform/ (macos, linux, null) defines these functions; the application links exactly one.
 
 // The system's own menu-bar item; nothing where the toolkit's tray icon is the way.
-std::unique_ptr<MenuBarItem> createNativeMenuBarItem();
+std::unique_ptr<MenuBarItem> createNativeMenuBarItem(const MenuBarSymbolPainter &paintSymbol);
 std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier();
 std::unique_ptr<LoginItem> createLoginItem();
 
@@ -32,6 +32,9 @@ DeclaredVersions declaredVersions();
 
 // The system's reduce-motion accessibility setting, where the platform has one.
 std::optional<bool> systemReducesMotion();
+// The system's increase-contrast accessibility setting (a high-contrast theme on Linux), where
+// the platform has one and says so promptly.
+std::optional<bool> systemIncreasesContrast();
 // Makes the process a regular application, where the platform distinguishes.
 void prepareApplication();
 // Brings the application to the front, even while another application is active.
@@ -42,5 +45,8 @@ void onApplicationReopen(std::function<void()> handler);
 // Puts the platform's popover material behind window, where it has one; false elsewhere, and
 // then the window paints its own background.
 bool usePopoverMaterial(QWidget &window);
+// Whether the window system composites windows, so that a window may have translucent (rounded)
+// corners.
+bool windowSystemComposites();
 
 } // namespace ferrow

@@ -18,6 +18,8 @@ struct NativeMachine {
     QString description; // "this Mac", "copied tree at /tmp/x"
     // The processor's energy counters are there but only an administrator may read them.
     bool chipPowerNeedsPermission = false;
+    // Whether the texts may call it "this Mac"; otherwise they say "this computer".
+    bool isMac = true;
 };
 
 // This machine, or nothing when it has nothing to read (no battery, supply or power sensor, or a

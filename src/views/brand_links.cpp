@@ -20,11 +20,10 @@ const QUrl &officialWebsiteUrl()
 }
 
 FerrowLogoLink::FerrowLogoLink(double size, double cornerRadius, QWidget *parent)
-    : QAbstractButton(parent)
+    : FerrowButton(parent)
     , m_size(size)
     , m_cornerRadius(cornerRadius)
 {
-    setCursor(Qt::PointingHandCursor);
     setToolTip(localizedText("action.open_official_website"));
     setAccessibleName(localizedText("action.open_official_website"));
     setFixedSize(sizeHint());
@@ -35,6 +34,13 @@ FerrowLogoLink::FerrowLogoLink(double size, double cornerRadius, QWidget *parent
         update();
     });
     connect(this, &QAbstractButton::clicked, this, [] { QDesktopServices::openUrl(officialWebsiteUrl()); });
+}
+
+void FerrowLogoLink::setFerrowPalette(const FerrowPalette &palette, const QColor &ground)
+{
+    m_palette = palette;
+    m_ground = ground;
+    update();
 }
 
 QSize FerrowLogoLink::sizeHint() const
@@ -83,13 +89,15 @@ void FerrowLogoLink::paintEvent(QPaintEvent *)
     clip.addRoundedRect(frame, m_cornerRadius, m_cornerRadius);
     painter.setClipPath(clip);
     painter.drawPixmap(frame, icon, QRectF(icon.rect()));
+    painter.setClipping(false);
+    painter.setOpacity(1.0);
+    paintFocusRing(painter, frame, m_cornerRadius, m_palette, m_ground);
 }
 
 OfficialWebsiteLink::OfficialWebsiteLink(Qt::Alignment alignment, QWidget *parent)
-    : QAbstractButton(parent)
+    : FerrowButton(parent)
     , m_alignment(alignment & Qt::AlignHorizontal_Mask)
 {
-    setCursor(Qt::PointingHandCursor);
     setToolTip(localizedText("action.open_official_website"));
     setAccessibleDescription(localizedText("action.open_official_website"));
     setText(officialWebsiteUrl().host());
@@ -97,9 +105,10 @@ OfficialWebsiteLink::OfficialWebsiteLink(Qt::Alignment alignment, QWidget *paren
     connect(this, &QAbstractButton::clicked, this, [] { QDesktopServices::openUrl(officialWebsiteUrl()); });
 }
 
-void OfficialWebsiteLink::setFerrowPalette(const FerrowPalette &palette)
+void OfficialWebsiteLink::setFerrowPalette(const FerrowPalette &palette, const QColor &ground)
 {
     m_palette = palette;
+    m_ground = ground;
     update();
 }
 
@@ -125,7 +134,12 @@ void OfficialWebsiteLink::paintEvent(QPaintEvent *)
     font.setLetterSpacing(QFont::AbsoluteSpacing, 0.225);
     painter.setFont(font);
     painter.setPen(m_hovered ? m_palette.accent() : m_palette.secondaryText());
-    painter.drawText(QRectF(rect()).adjusted(0, 6, 0, 0), QStyle::visualAlignment(layoutDirection(), m_alignment) | Qt::AlignTop, text());
+    const QRectF area = QRectF(rect()).adjusted(0, 6, 0, 0);
+    const Qt::Alignment alignment = QStyle::visualAlignment(layoutDirection(), m_alignment) | Qt::AlignTop;
+    painter.drawText(area, alignment, text());
+    // The ring hugs the name, not the whole width the layout gave it.
+    const QRectF name = painter.boundingRect(area, alignment, text());
+    paintFocusRing(painter, name.adjusted(-4, -2, 4, 2).intersected(QRectF(rect())), 4, m_palette, m_ground);
 }
 
 } // namespace ferrow

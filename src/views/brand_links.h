@@ -1,5 +1,6 @@
 #pragma once
 
+#include "views/ferrow_button.h"
 #include "views/ferrow_palette.h"
 
 #include <QAbstractButton>
@@ -12,10 +13,12 @@ namespace ferrow {
 const QUrl &officialWebsiteUrl();
 
 // The brand icon as a link: dims when hovered, and rises a point unless motion is reduced.
-class FerrowLogoLink : public QAbstractButton {
+class FerrowLogoLink : public FerrowButton {
 public:
     FerrowLogoLink(double size, double cornerRadius, QWidget *parent = nullptr);
     void setReduceMotion(bool reduceMotion) { m_reduceMotion = reduceMotion; }
+    // The ring's colour, and the ground the link sits on.
+    void setFerrowPalette(const FerrowPalette &palette, const QColor &ground);
     QSize sizeHint() const override;
 
 protected:
@@ -29,6 +32,8 @@ private:
     double m_size;
     double m_cornerRadius;
     bool m_reduceMotion = false;
+    FerrowPalette m_palette;
+    QColor m_ground;
     bool m_hovered = false;
     double m_hoverProgress = 0; // 0 at rest, 1 hovered; animated over 0.14 s
     QVariantAnimation m_hoverAnimation;
@@ -36,10 +41,10 @@ private:
 
 // The website's name as a link: secondary text, the accent colour while hovered, placed by
 // alignment in whatever width the layout gives it.
-class OfficialWebsiteLink : public QAbstractButton {
+class OfficialWebsiteLink : public FerrowButton {
 public:
     explicit OfficialWebsiteLink(Qt::Alignment alignment = Qt::AlignHCenter, QWidget *parent = nullptr);
-    void setFerrowPalette(const FerrowPalette &palette);
+    void setFerrowPalette(const FerrowPalette &palette, const QColor &ground);
     QSize sizeHint() const override { return {120, 20}; }
 
 protected:
@@ -50,6 +55,7 @@ protected:
 private:
     Qt::Alignment m_alignment;
     FerrowPalette m_palette;
+    QColor m_ground;
     bool m_hovered = false;
 };
 

@@ -19,6 +19,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace ferrow {
 namespace {
 
@@ -118,6 +120,7 @@ void DashboardView::setFerrowPalette(const FerrowPalette &palette)
 {
     m_palette = palette;
     m_header->setFerrowPalette(palette);
+    m_meters->setFerrowPalette(palette);
     m_meterCaption->setFerrowPalette(palette);
     m_flow->setFerrowPalette(palette);
     m_flowDivider->setFerrowPalette(palette);
@@ -166,12 +169,35 @@ void DashboardView::setReduceMotion(bool reduceMotion)
     m_header->setReduceMotion(reduceMotion);
 }
 
+void DashboardView::focusFirstControl()
+{
+    m_details->setFocus(Qt::TabFocusReason);
+}
+
+void DashboardView::setFrame(Frame frame)
+{
+    m_frame = frame;
+    update();
+}
+
 void DashboardView::paintEvent(QPaintEvent *)
 {
     if (!m_paintsBackground)
         return;
     QPainter painter(this);
-    painter.fillRect(rect(), m_palette.panelBackground());
+    if (m_frame != Frame::rounded)
+        painter.fillRect(rect(), m_palette.panelBackground());
+    if (m_frame == Frame::none)
+        return;
+    // Around the popover's own ground, so it stands apart from a light desktop or a window below.
+    constexpr double kPopoverRadius = 10;
+    const double radius = m_frame == Frame::rounded ? kPopoverRadius : 0;
+    painter.setRenderHint(QPainter::Antialiasing, m_frame == Frame::rounded);
+    QColor border = m_palette.separator();
+    border.setAlphaF(std::min(1.0f, border.alphaF() * 2)); // the hairline of a divider is too faint for an edge
+    painter.setPen(QPen(border, 1));
+    painter.setBrush(m_frame == Frame::rounded ? QBrush(m_palette.panelBackground()) : Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }
 
 } // namespace ferrow

@@ -41,8 +41,14 @@ public:
     void setLaunchAtLoginNote(const QString &note);
     // False where the window has the platform's own material behind it.
     void setPaintsBackground(bool paints);
+    // The popover's edge where no platform material gives it one: a hairline border, around
+    // rounded corners where the window system composites.
+    enum class Frame { none, square, rounded };
+    void setFrame(Frame frame);
     void setShowPowerInMenuBar(bool shown);
     void setReduceMotion(bool reduceMotion);
+    // The keyboard starts on the first control that does something here, not on the brand link.
+    void focusFirstControl();
     PowerFlowView *flowView() const { return m_flow; }
 
 signals:
@@ -59,6 +65,7 @@ private:
 
     FerrowPalette m_palette;
     bool m_paintsBackground = true;
+    Frame m_frame = Frame::none;
     bool m_hasBattery = false;
     std::optional<SessionRecord> m_session;
     UnixSeconds m_sessionNow = 0;

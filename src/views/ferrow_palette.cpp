@@ -6,6 +6,9 @@
 namespace ferrow {
 namespace {
 
+constexpr double kLegibleRatio = 4.5; // text and figures
+constexpr double kControlRatio = 3.0; // the outlines of controls
+
 QColor rgba(int r, int g, int b, double opacity)
 {
     QColor color(r, g, b);
@@ -63,17 +66,17 @@ QColor readableOn(const QColor &color, const QColor &background, double minimumR
 
 QColor FerrowPalette::primaryText() const
 {
-    return isDark() ? QColor(245, 245, 247) : QColor(29, 29, 31);
+    return legible(isDark() ? QColor(245, 245, 247) : QColor(29, 29, 31));
 }
 
 QColor FerrowPalette::secondaryText() const
 {
-    return grey(*this, 235, 245, 0.62, 0.67);
+    return legible(grey(*this, 235, 245, 0.62, 0.67));
 }
 
 QColor FerrowPalette::tertiaryText() const
 {
-    return grey(*this, 235, 245, 0.34, 0.38);
+    return legible(grey(*this, 235, 245, 0.34, 0.38));
 }
 
 QColor FerrowPalette::separator() const
@@ -83,12 +86,12 @@ QColor FerrowPalette::separator() const
 
 QColor FerrowPalette::accent() const
 {
-    return isDark() ? QColor(10, 132, 255) : QColor(0, 122, 255);
+    return legible(isDark() ? QColor(10, 132, 255) : QColor(0, 122, 255));
 }
 
 QColor FerrowPalette::positive() const
 {
-    return isDark() ? QColor(50, 215, 75) : QColor(40, 167, 69);
+    return legible(isDark() ? QColor(50, 215, 75) : QColor(40, 167, 69));
 }
 
 QColor FerrowPalette::cardTint() const
@@ -104,6 +107,67 @@ QColor FerrowPalette::panelBackground() const
 QColor FerrowPalette::cardFill() const
 {
     return isDark() ? rgba(255, 255, 255, 0.03) : rgba(255, 255, 255, 0.55);
+}
+
+QColor FerrowPalette::cardGround() const
+{
+    return over(cardTint(), over(cardFill(), panelBackground()));
+}
+
+QColor FerrowPalette::windowBackground() const
+{
+    return isDark() ? QColor(36, 36, 39) : QColor(246, 246, 248);
+}
+
+QColor FerrowPalette::sidebarBackground() const
+{
+    return isDark() ? QColor(44, 44, 48) : QColor(232, 232, 236);
+}
+
+QColor FerrowPalette::reportPanelBackground() const
+{
+    // A shade lighter than the window, as a material over it would be.
+    return isDark() ? QColor(48, 48, 51) : QColor(253, 253, 254);
+}
+
+QColor FerrowPalette::reportTileGround() const
+{
+    return over(cardTint(), reportPanelBackground());
+}
+
+QList<QColor> FerrowPalette::textGrounds() const
+{
+    return {panelBackground(), cardGround(), windowBackground(), sidebarBackground(), reportPanelBackground(), reportTileGround()};
+}
+
+QColor FerrowPalette::legible(const QColor &color) const
+{
+    if (!increasesContrast())
+        return color;
+    // Dark text must read on the darkest of the light grounds, light text on the lightest dark one;
+    // then it reads on all of them.
+    const QList<QColor> grounds = textGrounds();
+    const auto byLuminance = [](const QColor &a, const QColor &b) { return relativeLuminance(a) < relativeLuminance(b); };
+    const QColor hardest = isDark() ? *std::max_element(grounds.begin(), grounds.end(), byLuminance)
+                                    : *std::min_element(grounds.begin(), grounds.end(), byLuminance);
+    return readableOn(color, hardest, kLegibleRatio);
+}
+
+QColor FerrowPalette::meterTile(const QColor &color) const
+{
+    // Contrast is symmetric: the tone of the tile that white reads on. The codes are white at 0.9,
+    // hence the margin.
+    return increasesContrast() ? readableOn(color, Qt::white, kLegibleRatio + 0.8) : color;
+}
+
+QColor FerrowPalette::controlOutline(const QColor &ground) const
+{
+    return readableOn(isDark() ? QColor(152, 152, 157) : QColor(142, 142, 147), ground, increasesContrast() ? kLegibleRatio : kControlRatio);
+}
+
+QColor FerrowPalette::focusRing(const QColor &ground) const
+{
+    return readableOn(accent(), ground, kControlRatio);
 }
 
 QColor FerrowPalette::color(ColorRole role) const
@@ -122,13 +186,58 @@ QColor FerrowPalette::color(ColorRole role) const
     case ColorRole::positive:
         return positive();
     case ColorRole::dischargePink:
-        return FixedColor::dischargePink;
+        return legible(FixedColor::dischargePink);
     case ColorRole::liveGreen:
-        return FixedColor::liveGreen;
+        return legible(FixedColor::liveGreen);
     case ColorRole::orange:
-        return FixedColor::orange;
+        return legible(FixedColor::orange);
     }
     return primaryText();
+}
+
+QList<ColourPair> colourPairs(const FerrowPalette &palette)
+{
+    struct Ink {
+        QLatin1String name;
+        QColor color;
+    };
+    const Ink brandTexts[] = {
+        {QLatin1String("primary text"), palette.primaryText()},
+        {QLatin1String("secondary text"), palette.secondaryText()},
+        {QLatin1String("tertiary text"), palette.tertiaryText()},
+        {QLatin1String("accent"), palette.accent()},
+        {QLatin1String("positive"), palette.positive()},
+        {QLatin1String("discharge pink"), palette.color(ColorRole::dischargePink)},
+        {QLatin1String("orange"), palette.color(ColorRole::orange)},
+        {QLatin1String("live green"), palette.color(ColorRole::liveGreen)},
+        {QLatin1String("battery title"), palette.legible(FixedColor::chargeGreen)},
+        {QLatin1String("cells title"), palette.legible(FixedColor::cellsAccent)},
+    };
+    const Ink grounds[] = {
+        {QLatin1String("popover"), palette.panelBackground()},       {QLatin1String("popover card"), palette.cardGround()},
+        {QLatin1String("window"), palette.windowBackground()},       {QLatin1String("sidebar"), palette.sidebarBackground()},
+        {QLatin1String("report panel"), palette.reportPanelBackground()}, {QLatin1String("report tile"), palette.reportTileGround()},
+    };
+    QList<ColourPair> pairs;
+    for (const Ink &ground : grounds) {
+        for (const Ink &text : brandTexts)
+            pairs.push_back({QStringLiteral("%1 on %2").arg(text.name, ground.name), text.color, ground.color});
+        pairs.push_back({QStringLiteral("check box outline on %1").arg(ground.name), palette.controlOutline(ground.color), ground.color, 3.0, false});
+        pairs.push_back({QStringLiteral("focus ring on %1").arg(ground.name), palette.focusRing(ground.color), ground.color, 3.0, false});
+    }
+    // The figures of the report's rows take a legible tone of their tint on the panel.
+    for (const Ink &text : brandTexts)
+        pairs.push_back({QStringLiteral("row value in %1 on report panel").arg(text.name), readableOn(text.color, palette.reportPanelBackground()),
+                         palette.reportPanelBackground(), 4.5, false});
+    pairs.push_back({QStringLiteral("sidebar header"), readableOn(palette.secondaryText(), palette.sidebarBackground()), palette.sidebarBackground(), 4.5, false});
+    const Ink tiles[] = {{QLatin1String("VBUS"), FixedColor::meterInput}, {QLatin1String("IBUS"), FixedColor::meterCurrent}, {QLatin1String("PWR"), FixedColor::meterPower}};
+    QColor code = Qt::white;
+    code.setAlphaF(0.9f);
+    for (const Ink &tile : tiles) {
+        pairs.push_back({QStringLiteral("%1 figure").arg(tile.name), Qt::white, palette.meterTile(tile.color)});
+        pairs.push_back({QStringLiteral("%1 code").arg(tile.name), code, palette.meterTile(tile.color)});
+    }
+    return pairs;
 }
 
 } // namespace ferrow

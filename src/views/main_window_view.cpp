@@ -42,11 +42,6 @@ namespace {
 
 constexpr int kColumnMargin = 24; // around the detail column, and between its sections
 
-QColor windowBackground(const FerrowPalette &palette)
-{
-    return palette.isDark() ? QColor(36, 36, 39) : QColor(246, 246, 248);
-}
-
 QIcon glyphIcon(Glyph glyph, const QColor &color)
 {
     QPixmap pixmap(QSize(32, 32));
@@ -122,9 +117,8 @@ void MainWindowView::buildToolbar()
     auto *titleColumn = new QVBoxLayout(titles);
     titleColumn->setContentsMargins(8, 2, 8, 2);
     titleColumn->setSpacing(0);
-    m_toolbarTitle = fontLabel(uiFont(13, QFont::DemiBold), localizedText("window.device_details"));
-    m_toolbarSubtitle = fontLabel(uiFont(11), localizedText("app.subtitle"));
-    titleColumn->addWidget(m_toolbarTitle);
+    // The window's title bar carries the title; the toolbar says what the window holds.
+    m_toolbarSubtitle = fontLabel(uiFont(12), localizedText("app.subtitle"));
     titleColumn->addWidget(m_toolbarSubtitle);
     toolbar->addWidget(titles);
     auto *spring = new QWidget;
@@ -139,6 +133,9 @@ void MainWindowView::buildToolbar()
     refresh->setIcon(glyphIcon(Glyph::refresh, FixedColor::macBlue));
     connect(refresh, &QToolButton::clicked, this, &MainWindowView::refreshRequested);
     toolbar->addWidget(refresh);
+    // A toolbar's buttons take no focus by default; these are the window's first stops for Tab.
+    for (QWidget *button : {toolbar->widgetForAction(m_sidebarToggle), static_cast<QWidget *>(refresh)})
+        button->setFocusPolicy(Qt::TabFocus);
 }
 
 QWidget *MainWindowView::buildDetail()
@@ -322,9 +319,9 @@ void MainWindowView::applyPalette()
 {
     const FerrowPalette &p = m_palette;
     QPalette window = palette();
-    window.setColor(QPalette::Window, windowBackground(p));
+    window.setColor(QPalette::Window, p.windowBackground());
     window.setColor(QPalette::WindowText, p.primaryText());
-    window.setColor(QPalette::Button, windowBackground(p));
+    window.setColor(QPalette::Button, p.windowBackground());
     window.setColor(QPalette::ButtonText, p.primaryText());
     setPalette(window);
     QPalette divider = window;
@@ -341,6 +338,7 @@ void MainWindowView::applyPalette()
     for (ReportPanel *panel : std::initializer_list<ReportPanel *>{m_distribution, m_chart, m_battery, m_cells, m_energy, m_sessions, m_batteryHealth, m_device})
         panel->setFerrowPalette(p);
     m_footer->setFerrowPalette(p);
+    m_meters->setFerrowPalette(p);
 }
 
 void MainWindowView::setSidebarShown(bool shown)

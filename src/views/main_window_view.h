@@ -85,7 +85,6 @@ private:
     PowerSnapshot m_snapshot = PowerSnapshot::empty();
     MainSection m_selection = MainSection::overview;
     bool m_reduceMotion = false;
-    QLabel *m_toolbarTitle = nullptr;
     QLabel *m_toolbarSubtitle = nullptr;
     QAction *m_sidebarToggle = nullptr;
     QSplitter *m_splitter = nullptr;

@@ -40,6 +40,12 @@ AccessibleItem MeterCard::accessibleSelf() const
     return {QAccessible::StaticText, meterAccessibleText(m_code, m_value, m_unit), {}};
 }
 
+void MeterCard::setFerrowPalette(const FerrowPalette &palette)
+{
+    m_palette = palette;
+    update();
+}
+
 QSize MeterCard::sizeHint() const
 {
     return {m_metrics.height > 60 ? 220 : 130, static_cast<int>(m_metrics.height)};
@@ -51,12 +57,13 @@ void MeterCard::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF tile = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -1.5); // room for the shadow below
-    const QString key = QStringLiteral("meter|%1|%2|%3").arg(m.radius).arg(m.outlineAlpha).arg(m_color.rgba());
+    const QColor color = m_palette.meterTile(m_color);
+    const QString key = QStringLiteral("meter|%1|%2|%3").arg(m.radius).arg(m.outlineAlpha).arg(color.rgba());
     painter.drawPixmap(0, 0, cachedDrawing(key, size(), paintingScale(painter), [&](QPainter &ground) {
         QPainterPath shape;
         shape.addRoundedRect(tile, m.radius, m.radius);
         ground.fillPath(shape.translated(0, 1), QColor(0, 0, 0, 20));
-        ground.fillPath(shape, m_color);
+        ground.fillPath(shape, color);
         ground.setPen(QPen(QColor(255, 255, 255, static_cast<int>(255 * m.outlineAlpha)), 0.5));
         ground.drawPath(shape);
     }));

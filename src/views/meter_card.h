@@ -1,6 +1,7 @@
 #pragma once
 
 #include "views/accessible_content.h"
+#include "views/ferrow_palette.h"
 
 #include <QColor>
 #include <QWidget>
@@ -23,6 +24,7 @@ public:
     MeterCard(QString code, QString unit, QColor color, Size size = Size::compact, QWidget *parent = nullptr);
 
     void setValue(std::optional<double> value);
+    void setFerrowPalette(const FerrowPalette &palette);
     std::optional<double> value() const { return m_value; }
     QSize sizeHint() const override;
     AccessibleItem accessibleSelf() const override;
@@ -35,6 +37,7 @@ private:
     QString m_code;
     QString m_unit;
     QColor m_color;
+    FerrowPalette m_palette;
     std::optional<double> m_value;
 };
 

@@ -27,4 +27,10 @@ void MeterRow::setSnapshot(const PowerSnapshot &s)
     m_power->setValue(s.displayPowerW());
 }
 
+void MeterRow::setFerrowPalette(const FerrowPalette &palette)
+{
+    for (MeterCard *card : {m_voltage, m_current, m_power})
+        card->setFerrowPalette(palette);
+}
+
 } // namespace ferrow

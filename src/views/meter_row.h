@@ -13,6 +13,7 @@ public:
     explicit MeterRow(MeterCard::Size size, QWidget *parent = nullptr);
 
     void setSnapshot(const PowerSnapshot &snapshot);
+    void setFerrowPalette(const FerrowPalette &palette);
 
 private:
     MeterCard *m_voltage;

@@ -25,6 +25,7 @@
 #include <QToolButton>
 #include <QValueAxis>
 
+#include <algorithm>
 #include <cmath>
 
 namespace ferrow {
@@ -244,16 +245,13 @@ void PowerHistoryChart::setFerrowPalette(const FerrowPalette &palette)
     m_title->setFont(uiFont(12));
     for (Statistic *statistic : {m_average, m_peak})
         statistic->setColours(palette.secondaryText(), palette.primaryText());
-    findChild<QWidget *>(QStringLiteral("windowPicker"))
-        ->setStyleSheet(QStringLiteral("#windowPicker { background: %1; border-radius: 7px; }").arg(css(palette.cardTint())));
-    // Each segment gets its own sheet: a sheet changed on the picker alone does not reach segments
-    // that were already styled, which kept the first appearance's text colour (white on light).
-    const QString segmentSheet =
-        QStringLiteral("QToolButton { border: none; border-radius: 5px; padding: 3px; color: %1; background: transparent; font-size: 11px; }"
-                       "QToolButton:checked { background: %2; }")
-            .arg(css(palette.primaryText()), css(palette.isDark() ? QColor(255, 255, 255, 46) : QColor(255, 255, 255)));
-    for (QAbstractButton *segment : m_windowChoices->buttons())
-        segment->setStyleSheet(segmentSheet);
+    styleSegmentedPicker(*findChild<QWidget *>(QStringLiteral("windowPicker")), m_windowChoices->buttons(), palette, palette.reportPanelBackground());
+    // The last mark can sit on the plot's right edge, its label centred on it: room for half a label.
+    const QFontMetricsF markMetrics(uiFont(10));
+    double widestMark = 0;
+    for (const QTime time : {QTime(10, 58), QTime(22, 58)})
+        widestMark = std::max(widestMark, markMetrics.horizontalAdvance(timeOfDayText(time, QLocale(), Seconds::hidden)));
+    m_chart->setMargins(QMargins(0, 4, static_cast<int>(std::ceil(widestMark / 2)) + 2, 0));
     for (QAbstractAxis *axis : {static_cast<QAbstractAxis *>(m_timeAxis), static_cast<QAbstractAxis *>(m_valueAxis)}) {
         axis->setLabelsColor(palette.secondaryText());
         axis->setLabelsFont(uiFont(10));

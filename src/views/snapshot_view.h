@@ -23,6 +23,7 @@ public:
     void setFerrowPalette(const FerrowPalette &palette)
     {
         m_palette = palette;
+        ferrowPaletteChanged();
         update();
     }
     const PowerSnapshot &snapshot() const { return m_snapshot; }
@@ -31,6 +32,8 @@ public:
     quint64 snapshotRevision() const { return m_snapshotRevision; }
 
 protected:
+    // For views that hand the palette on to child widgets.
+    virtual void ferrowPaletteChanged() {}
     // Whether next would look different from shown. Views that show a few slow-moving figures say
     // so, and sit out the readings that leave them unchanged: a repaint costs a flush to the
     // window system.

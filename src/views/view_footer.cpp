@@ -12,6 +12,7 @@ namespace ferrow {
 
 ViewFooter::ViewFooter(Kind kind, QWidget *parent)
     : QWidget(parent)
+    , m_popover(kind == Kind::popover)
     , m_divider(new Divider)
     , m_website(new OfficialWebsiteLink(kind == Kind::popover ? Qt::AlignHCenter : Qt::AlignLeading))
     , m_note(new QPushButton)
@@ -21,6 +22,7 @@ ViewFooter::ViewFooter(Kind kind, QWidget *parent)
     m_website->setObjectName(QStringLiteral("website"));
     m_note->setFlat(true);
     m_note->setCursor(Qt::PointingHandCursor);
+    m_note->setFocusPolicy(Qt::TabFocus);
     m_note->setFixedHeight(m_website->sizeHint().height());
     m_note->hide();
     connect(m_note, &QPushButton::clicked, this, &ViewFooter::noteClicked);
@@ -29,7 +31,7 @@ ViewFooter::ViewFooter(Kind kind, QWidget *parent)
     column->setSpacing(0);
     column->addWidget(m_divider);
     column->addLayout(m_line);
-    const bool popover = kind == Kind::popover;
+    const bool popover = m_popover;
     column->setContentsMargins(popover ? QMargins(10, 6, 10, 0) : QMargins());
     m_line->setContentsMargins(popover ? QMargins() : QMargins(24, 10, 24, 10));
     m_line->addWidget(m_website, 1);
@@ -44,9 +46,11 @@ ViewFooter::ViewFooter(Kind kind, QWidget *parent)
 void ViewFooter::setFerrowPalette(const FerrowPalette &palette)
 {
     m_divider->setFerrowPalette(palette);
-    m_website->setFerrowPalette(palette);
-    // A link-like line: no frame, the accent colour.
-    m_note->setStyleSheet(QStringLiteral("QPushButton { border: none; padding: 0; text-align: center; color: %1; }").arg(palette.accent().name()));
+    m_website->setFerrowPalette(palette, m_popover ? palette.panelBackground() : palette.windowBackground());
+    // A link-like line: no frame, the accent colour; underlined while it has the keyboard focus.
+    m_note->setStyleSheet(QStringLiteral("QPushButton { border: none; padding: 0; text-align: center; color: %1; }"
+                                         "QPushButton:focus { text-decoration: underline; }")
+                              .arg(palette.accent().name()));
     m_note->setFont(uiFont(9));
 }
 

@@ -33,6 +33,7 @@ signals:
     void noteClicked();
 
 private:
+    bool m_popover;
     Divider *m_divider;
     OfficialWebsiteLink *m_website;
     QPushButton *m_note;

@@ -1,5 +1,6 @@
 #include "views/view_painting.h"
 
+#include <QAbstractButton>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QFontMetricsF>
@@ -95,6 +96,22 @@ void paintBottomSeparator(QPainter &painter, const QRectF &rect, const FerrowPal
 {
     // A filled row of pixels rather than a stroked line: no antialiasing, no spans to blend.
     painter.fillRect(QRectF(rect.left(), rect.bottom() - 1, rect.width(), 1), palette.separator());
+}
+
+void styleSegmentedPicker(QWidget &picker, const QList<QAbstractButton *> &segments, const FerrowPalette &palette, const QColor &ground)
+{
+    const auto css = [](const QColor &c) { return c.name(QColor::HexArgb); };
+    picker.setStyleSheet(QStringLiteral("#%1 { background: %2; border-radius: 7px; }").arg(picker.objectName(), css(palette.cardTint())));
+    // Each segment gets its own sheet: a sheet changed on the picker alone does not reach segments
+    // that were already styled, which kept the first appearance's text colour (white on light).
+    const QString segmentSheet =
+        QStringLiteral("QToolButton { border: none; border-radius: 5px; padding: 3px; color: %1; background: transparent; font-size: 11px; }"
+                       "QToolButton:checked { background: %2; }"
+                       "QToolButton:focus { border: 2px solid %3; padding: 1px; }")
+            .arg(css(palette.primaryText()), css(palette.isDark() ? QColor(255, 255, 255, 46) : QColor(255, 255, 255)),
+                 css(palette.focusRing(ground)));
+    for (QAbstractButton *segment : segments)
+        segment->setStyleSheet(segmentSheet);
 }
 
 QLabel *fontLabel(const QFont &font, const QString &text)

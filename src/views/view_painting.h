@@ -3,12 +3,14 @@
 #include "views/ferrow_palette.h"
 
 #include <QFont>
+#include <QList>
 #include <QPixmap>
 #include <QRectF>
 #include <QString>
 
 #include <functional>
 
+class QAbstractButton;
 class QLabel;
 class QPainter;
 
@@ -43,6 +45,9 @@ void paintCardSurface(QPainter &painter, const QRectF &rect, double cornerRadius
 
 // A hairline divider along the bottom of rect.
 void paintBottomSeparator(QPainter &painter, const QRectF &rect, const FerrowPalette &palette);
+
+// A row of checkable segments on a tinted ground, the chosen one raised, the focused one ringed.
+void styleSegmentedPicker(QWidget &picker, const QList<QAbstractButton *> &segments, const FerrowPalette &palette, const QColor &ground);
 
 // The windows' labels: a label in a font, and its text in a colour of the palette's.
 QLabel *fontLabel(const QFont &font, const QString &text = QString());

@@ -110,6 +110,44 @@ private slots:
         QCOMPARE(ferrow::trayIconFigure(powerW.isValid() ? std::optional(powerW.toDouble()) : std::nullopt), figure);
     }
 
+    // Where the tray icon is drawn: the bounding box of its white ink on the dark tile.
+    void trayIconInk_data()
+    {
+        QTest::addColumn<bool>("external");
+        QTest::addColumn<bool>("showPower");
+        QTest::addColumn<int>("side");
+        QTest::addColumn<QSize>("atLeast");
+        QTest::addColumn<int>("atMostHigh");
+        // At panel sizes a figure would be a smudge: the glyph fills the icon instead.
+        QTest::newRow("battery, 22 px") << false << true << 22 << QSize(15, 6) << 10;
+        QTest::newRow("bolt, 24 px") << true << true << 24 << QSize(8, 15) << 24;
+        QTest::newRow("battery, 48 px, figure off") << false << false << 48 << QSize(32, 14) << 24;
+        // Where it can be read, the figure sits under the glyph.
+        QTest::newRow("battery, 48 px, figure") << false << true << 48 << QSize(30, 34) << 48;
+    }
+
+    void trayIconInk()
+    {
+        QFETCH(bool, external);
+        QFETCH(bool, showPower);
+        QFETCH(int, side);
+        QFETCH(QSize, atLeast);
+        QFETCH(int, atMostHigh);
+        MenuBarReading reading;
+        reading.onExternalPower = external;
+        reading.powerW = -12.3;
+        reading.showsPower = showPower;
+        const QImage image = renderTrayIcon(reading).pixmap(side, side).toImage();
+        QCOMPARE(image.size(), QSize(side, side));
+        QRect ink;
+        for (int y = 0; y < side; ++y)
+            for (int x = 0; x < side; ++x)
+                if (qGray(image.pixel(x, y)) > 160 && qAlpha(image.pixel(x, y)) > 200)
+                    ink |= QRect(x, y, 1, 1);
+        QVERIFY2(ink.width() >= atLeast.width() && ink.height() >= atLeast.height() && ink.height() <= atMostHigh,
+                 qPrintable(QStringLiteral("ink %1 x %2").arg(ink.width()).arg(ink.height())));
+    }
+
     void settingsAreReadDefensively_data()
     {
         QTest::addColumn<QVariant>("stored");
@@ -140,7 +178,7 @@ private slots:
 
         // What one program writes, the other reads back as it was.
         QSettings writer(file, QSettings::IniFormat);
-        const Preferences chosen{!read, true, Appearance::dark};
+        const Preferences chosen{!read, true, true, Appearance::dark};
         QVERIFY(writePreferences(writer, chosen));
         QCOMPARE(readPreferences(writer), chosen);
         QCOMPARE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions()); // the user's alone

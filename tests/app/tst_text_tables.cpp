@@ -133,17 +133,23 @@ private slots:
         QTest::addColumn<QByteArray>("key");
         QTest::addColumn<int>("count");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany) << QByteArray("battery.title") << -1 << QStringLiteral("Akku");
+        QTest::addColumn<bool>("computer"); // the machine is not a Mac
+        QTest::newRow("German") << QLocale(QLocale::German, QLocale::Germany) << QByteArray("battery.title") << -1 << QStringLiteral("Akku") << false;
         QTest::newRow("Brazilian Portuguese")
-            << QLocale(QLocale::Portuguese, QLocale::Brazil) << QByteArray("battery.title") << -1 << QStringLiteral("Bateria");
+            << QLocale(QLocale::Portuguese, QLocale::Brazil) << QByteArray("battery.title") << -1 << QStringLiteral("Bateria") << false;
         QTest::newRow("Traditional Chinese")
-            << QLocale(QLocale::Chinese, QLocale::Taiwan) << QByteArray("battery.title") << -1 << QStringLiteral("電池");
+            << QLocale(QLocale::Chinese, QLocale::Taiwan) << QByteArray("battery.title") << -1 << QStringLiteral("電池") << false;
         QTest::newRow("Simplified Chinese")
-            << QLocale(QLocale::Chinese, QLocale::China) << QByteArray("battery.title") << -1 << QStringLiteral("电池");
-        QTest::newRow("no table: English") << QLocale(QLocale::Swahili) << QByteArray("battery.title") << -1 << QStringLiteral("Battery");
-        QTest::newRow("Russian one") << QLocale(QLocale::Russian) << QByteArray("count.times") << 21 << QStringLiteral("21 раз");
-        QTest::newRow("Russian few") << QLocale(QLocale::Russian) << QByteArray("count.times") << 3 << QStringLiteral("3 раза");
-        QTest::newRow("Russian many") << QLocale(QLocale::Russian) << QByteArray("count.times") << 12 << QStringLiteral("12 раз");
+            << QLocale(QLocale::Chinese, QLocale::China) << QByteArray("battery.title") << -1 << QStringLiteral("电池") << false;
+        QTest::newRow("no table: English") << QLocale(QLocale::Swahili) << QByteArray("battery.title") << -1 << QStringLiteral("Battery") << false;
+        QTest::newRow("Russian one") << QLocale(QLocale::Russian) << QByteArray("count.times") << 21 << QStringLiteral("21 раз") << false;
+        QTest::newRow("Russian few") << QLocale(QLocale::Russian) << QByteArray("count.times") << 3 << QStringLiteral("3 раза") << false;
+        QTest::newRow("German, a computer")
+            << QLocale(QLocale::German, QLocale::Germany) << QByteArray("battery.not_detected_description") << -1
+            << QStringLiteral("Dieser Computer läuft nur mit externer Stromversorgung.") << true;
+        QTest::newRow("no table, a computer: English") << QLocale(QLocale::Swahili) << QByteArray("device.title") << -1 << QStringLiteral("This computer") << true;
+        QTest::newRow("a computer: other texts unchanged") << QLocale(QLocale::German, QLocale::Germany) << QByteArray("battery.title") << -1 << QStringLiteral("Akku") << true;
+        QTest::newRow("Russian many") << QLocale(QLocale::Russian) << QByteArray("count.times") << 12 << QStringLiteral("12 раз") << false;
     }
 
     void installedTablesFollowTheLocale()
@@ -152,8 +158,11 @@ private slots:
         QFETCH(QByteArray, key);
         QFETCH(int, count);
         QFETCH(QString, expected);
+        QFETCH(bool, computer);
         QLocale::setDefault(locale);
         QVERIFY(installTextTable(*QCoreApplication::instance()));
+        if (computer)
+            nameMachineAComputer(*QCoreApplication::instance());
         const QString text = qtTrId(key.constData(), count);
         removeInstalledTables();
         QLocale::setDefault(QLocale::c());

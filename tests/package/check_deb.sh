@@ -16,6 +16,8 @@ app=app.ferrow.Ferrow
 for path in usr/bin/ferrow usr/bin/ferrow-cli \
     usr/share/applications/$app.desktop usr/share/metainfo/$app.metainfo.xml \
     usr/share/icons/hicolor/scalable/apps/$app.svg \
+    usr/share/icons/hicolor/scalable/status/ferrow-bolt-symbolic.svg \
+    usr/share/icons/hicolor/scalable/status/ferrow-battery-symbolic.svg \
     usr/share/doc/ferrow/copyright usr/share/doc/ferrow/changelog.gz usr/share/doc/ferrow/OFL.txt; do
     [ -f "$scratch/root/$path" ] || fail "missing /$path"
 done

@@ -31,7 +31,7 @@ private slots:
 
     void desktopServicesAreAbsent()
     {
-        QVERIFY(!createNativeMenuBarItem());
+        QVERIFY(!createNativeMenuBarItem({}));
         QVERIFY(createSleepWakeNotifier());
         const std::unique_ptr<LoginItem> login = createLoginItem();
         QVERIFY(!login->setEnabled(true));

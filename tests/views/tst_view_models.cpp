@@ -15,6 +15,7 @@ using namespace ferrow;
 
 Q_DECLARE_METATYPE(ferrow::PowerSnapshot)
 Q_DECLARE_METATYPE(QLocale)
+Q_DECLARE_METATYPE(ferrow::ColourPair)
 
 namespace {
 
@@ -82,6 +83,34 @@ private slots:
             QVERIFY(qAbs(readable.hsvHue() - tone.hsvHue()) <= 3); // still the same colour, only darker or lighter
             QVERIFY(contrastRatio(readable, background) < 4.8);    // and no further from it than it takes
         }
+    }
+
+    // Every colour the views draw on every ground they draw it on, in both appearances and both
+    // contrast modes: the brand's own colours may fall short unless contrast is increased; every
+    // colour of ours, and every colour once contrast is increased, reads.
+    void colourPairs_data()
+    {
+        QTest::addColumn<ColourPair>("pair");
+        QTest::addColumn<bool>("mustRead");
+        for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+            for (const Contrast contrast : {Contrast::standard, Contrast::increased}) {
+                const FerrowPalette palette{scheme, contrast};
+                const QString mode = QStringLiteral("%1, %2 contrast: ")
+                                         .arg(palette.isDark() ? QStringLiteral("dark") : QStringLiteral("light"),
+                                              palette.increasesContrast() ? QStringLiteral("increased") : QStringLiteral("standard"));
+                for (const ColourPair &pair : ferrow::colourPairs(palette))
+                    QTest::newRow(qPrintable(mode + pair.what)) << pair << (palette.increasesContrast() || !pair.brandColour);
+            }
+        }
+    }
+
+    void colourPairs()
+    {
+        QFETCH(ColourPair, pair);
+        QFETCH(bool, mustRead);
+        const double ratio = contrastRatio(pair.foreground, pair.background);
+        if (mustRead)
+            QVERIFY2(ratio >= pair.minimumRatio, qPrintable(QStringLiteral("%1:1, %2 on %3").arg(ratio, 0, 'f', 2).arg(pair.foreground.name(QColor::HexArgb), pair.background.name())));
     }
 
     // Rows as "label=value@colour" lines, so a whole card compares at once.

@@ -21,6 +21,7 @@
 #include "model/localized_text.h"
 #include "views/dashboard_view.h"
 #include "views/main_window_view.h"
+#include "views/ferrow_style.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -167,7 +168,7 @@ int renderMainWindow(const QString &output, const QString &name, const Simulated
     MainWindowView window;
     if (history)
         window.setHistoryOverview(history->overview, history->today);
-    window.setAttribute(Qt::WA_DontShowOnScreen);
+    // Shown (offscreen) rather than hidden, so that it can be the active window and show the focus.
     window.setFerrowPalette(FerrowPalette{scheme});
     window.setSnapshot(run.snapshot);
     window.setHistory(run.history);
@@ -184,6 +185,20 @@ int renderMainWindow(const QString &output, const QString &name, const Simulated
                                  .arg(output, name, scheme == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light"),
                                       QString::fromLatin1(sectionTitleKey(section)).section(u'.', 1));
         if (!render(window, 1.0, path)) {
+            err << "render_views: cannot write " << path << Qt::endl;
+            return -1;
+        }
+        ++written;
+    }
+    {
+        // The power chart alone, its last time mark at the right edge, the range picker focused.
+        QWidget *chart = window.findChild<QWidget *>(QStringLiteral("historyPanel"));
+        window.activateWindow();
+        waitFor(20);
+        if (auto *picker = chart->findChild<QWidget *>(QStringLiteral("windowPicker")))
+            picker->findChildren<QToolButton *>().constFirst()->setFocus(Qt::TabFocusReason);
+        const QString path = QStringLiteral("%1/main-%2-%3-power-chart.png").arg(output, name, scheme == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light"));
+        if (!render(*chart, 1.0, path)) {
             err << "render_views: cannot write " << path << Qt::endl;
             return -1;
         }
@@ -270,7 +285,7 @@ int main(int argc, char *argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new FerrowStyle);
     QCoreApplication::setApplicationVersion(QStringLiteral(FERROW_VERSION));
     installTextTable(application);
     registerBrandFonts();
@@ -348,6 +363,31 @@ int main(int argc, char *argv[])
             return 1;
         }
         ++written;
+    }
+    // The keyboard's focus as Tab leaves it, in both appearances, and with the system's increased
+    // contrast: the popover on its first control.
+    for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+        for (const Contrast contrast : {Contrast::standard, Contrast::increased}) {
+            DashboardView dashboard;
+            dashboard.setFerrowPalette(FerrowPalette{scheme, contrast});
+            dashboard.setSnapshot(snapshots[1]);
+            dashboard.setFrame(DashboardView::Frame::square); // as under a window system that does not composite
+            dashboard.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+            dashboard.setShowPowerInMenuBar(true);
+            dashboard.setReduceMotion(true);
+            dashboard.show();
+            dashboard.activateWindow();
+            waitFor(20);
+            dashboard.focusFirstControl();
+            const QString path = QStringLiteral("%1/popover-keyboard-%2%3.png")
+                                     .arg(output, scheme == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light"),
+                                          contrast == Contrast::increased ? QStringLiteral("-increased-contrast") : QString());
+            if (!render(dashboard, 1.0, path)) {
+                err << "render_views: cannot write " << path << Qt::endl;
+                return 1;
+            }
+            ++written;
+        }
     }
     if (!renderTrayIcons(output, snapshots)) {
         err << "render_views: cannot write the tray icons to " << output << Qt::endl;

@@ -3,14 +3,9 @@
 #include <QCoreApplication>
 
 // The desktop services of a system whose toolkit does it all: Linux and the null backend. No
-// status item of its own (the tray icon is the way), no bundle, no Dock, no popover material.
+// bundle, no Dock, no popover material.
 
 namespace ferrow {
-
-std::unique_ptr<MenuBarItem> createNativeMenuBarItem()
-{
-    return nullptr;
-}
 
 DeclaredVersions declaredVersions()
 {

@@ -27,7 +27,7 @@ std::string nativePath(const QString &root)
 NativeMachine opened(std::unique_ptr<LinuxPowerReader> reader, QString description)
 {
     const bool needsPermission = reader->chipPowerNeedsPermission();
-    return NativeMachine{std::move(reader), std::move(description), needsPermission};
+    return NativeMachine{std::move(reader), std::move(description), needsPermission, false};
 }
 
 } // namespace

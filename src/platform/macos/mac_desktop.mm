@@ -88,7 +88,7 @@ void MainAppLoginItem::openSettingsForState()
     }
 }
 
-std::unique_ptr<MenuBarItem> createNativeMenuBarItem()
+std::unique_ptr<MenuBarItem> createNativeMenuBarItem(const MenuBarSymbolPainter &)
 {
     return std::make_unique<MacStatusItem>();
 }
@@ -118,6 +118,16 @@ DeclaredVersions declaredVersions()
 std::optional<bool> systemReducesMotion()
 {
     return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldReduceMotion;
+}
+
+bool windowSystemComposites()
+{
+    return true;
+}
+
+std::optional<bool> systemIncreasesContrast()
+{
+    return NSWorkspace.sharedWorkspace.accessibilityDisplayShouldIncreaseContrast;
 }
 
 void prepareApplication()

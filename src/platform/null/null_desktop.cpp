@@ -14,6 +14,11 @@ public:
 
 } // namespace
 
+std::unique_ptr<MenuBarItem> createNativeMenuBarItem(const MenuBarSymbolPainter &)
+{
+    return nullptr;
+}
+
 std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
 {
     return std::make_unique<SleepWakeNotifier>();
@@ -22,6 +27,16 @@ std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
 std::unique_ptr<LoginItem> createLoginItem()
 {
     return std::make_unique<NoLoginItem>();
+}
+
+std::optional<bool> systemIncreasesContrast()
+{
+    return std::nullopt;
+}
+
+bool windowSystemComposites()
+{
+    return false;
 }
 
 } // namespace ferrow

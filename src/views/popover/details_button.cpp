@@ -10,10 +10,9 @@
 namespace ferrow {
 
 DetailsButton::DetailsButton(QWidget *parent)
-    : QAbstractButton(parent)
+    : FerrowButton(parent)
 {
     setFixedHeight(38);
-    setCursor(Qt::PointingHandCursor);
     setAccessibleName(localizedText("action.open_details"));
 }
 
@@ -47,6 +46,8 @@ void DetailsButton::paintEvent(QPaintEvent *)
     drawFittedText(painter, QRectF(textLeft, inner.center().y(), inner.right() - textLeft - 20, 13), localizedText("action.open_details_subtitle"),
                    uiFont(9), 0.85, Qt::AlignLeft);
     paintGlyph(painter, Glyph::chevronRight, QRectF(inner.right() - 9, inner.center().y() - 5, 9, 10), m_palette.secondaryText());
+    painter.setOpacity(1.0);
+    paintFocusRing(painter, QRectF(rect()), 8, m_palette, m_palette.cardGround());
 }
 
 } // namespace ferrow

@@ -1,13 +1,12 @@
 #pragma once
 
+#include "views/ferrow_button.h"
 #include "views/ferrow_palette.h"
-
-#include <QAbstractButton>
 
 namespace ferrow {
 
 // The popover's row that opens the details window.
-class DetailsButton : public QAbstractButton {
+class DetailsButton : public FerrowButton {
 public:
     explicit DetailsButton(QWidget *parent = nullptr);
     void setFerrowPalette(const FerrowPalette &palette);

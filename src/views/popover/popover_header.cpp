@@ -33,6 +33,11 @@ void PopoverHeader::setSubtitle(const QString &subtitle)
     update();
 }
 
+void PopoverHeader::ferrowPaletteChanged()
+{
+    m_logo->setFerrowPalette(ferrowPalette(), ferrowPalette().panelBackground());
+}
+
 void PopoverHeader::setReduceMotion(bool reduceMotion)
 {
     m_logo->setReduceMotion(reduceMotion);

@@ -19,6 +19,7 @@ public:
     void announceStatus();
 
 protected:
+    void ferrowPaletteChanged() override;
     void paintEvent(QPaintEvent *event) override;
     bool paintsDifferently(const PowerSnapshot &shown, const PowerSnapshot &next) const override;
 

@@ -31,7 +31,7 @@ double noonMilliseconds(const QDate &day)
 } // namespace
 
 BatteryHealthPanel::BatteryHealthPanel(QWidget *parent)
-    : ReportPanel("energy_history.batteries", Glyph::battery, kChargeGreen, parent)
+    : ReportPanel("energy_history.batteries", Glyph::battery, FixedColor::chargeGreen, parent)
     , m_health(makePlot("energy_history.health", "%.0f%%"))
     , m_capacity(makePlot("energy_history.capacity", "%.0f"))
 {

@@ -67,7 +67,7 @@ void BatteryPacksView::applyPalette(const Column &column) const
     column.title->setFerrowPalette(m_palette);
     column.rows->setFerrowPalette(m_palette);
     // Charging green and discharging pink are chosen here, not by the palette.
-    column.rows->setLegibleOn(panelGround(m_palette));
+    column.rows->setLegibleOn(m_palette.reportPanelBackground());
 }
 
 } // namespace ferrow

@@ -38,12 +38,12 @@ protected:
         painter.drawText(QRectF(0, 0, width / 2, 40), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("%1%").arg(s.batteryPercent));
         painter.setPen(palette.secondaryText());
         drawFittedText(painter, QRectF(width / 2, 0, width / 2, 40), s.statusText(), uiFont(13), 0.85, Qt::AlignRight);
-        paintProgress(painter, QRectF(0, 44, width, 6), s.batteryPercent / 100.0, kChargeGreen, palette);
+        paintProgress(painter, QRectF(0, 44, width, 6), s.batteryPercent / 100.0, FixedColor::chargeGreen, palette);
     }
 };
 
 BatteryPanel::BatteryPanel(QWidget *parent)
-    : ReportPanel("battery.title", Glyph::battery, kChargeGreen, parent)
+    : ReportPanel("battery.title", Glyph::battery, FixedColor::chargeGreen, parent)
     , m_charge(new Charge)
     , m_rows(new ValueRowsView(ValueRowsView::Size::regular))
     , m_packsHeading(new PanelText(uiFont(13, QFont::DemiBold), ColorRole::secondaryText, 8, 20, 32))

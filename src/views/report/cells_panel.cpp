@@ -12,7 +12,6 @@
 namespace ferrow {
 namespace {
 
-const QColor kCellsAccent(52, 167, 126);
 constexpr double kTileHeight = 72;
 constexpr double kTileGap = 10;
 
@@ -78,7 +77,7 @@ protected:
             painter.setPen(m_palette.primaryText());
             drawFittedText(painter, QRectF(inner.left(), inner.top() + 16, inner.width(), 24), formatFigure(m_volts[i], "%.3f V"),
                            uiFont(17, QFont::DemiBold), 0.75, Qt::AlignLeft);
-            paintProgress(painter, QRectF(inner.left(), inner.bottom() - 5, inner.width(), 5), cellBarFraction(m_volts[i]), kChargeGreen, m_palette);
+            paintProgress(painter, QRectF(inner.left(), inner.bottom() - 5, inner.width(), 5), cellBarFraction(m_volts[i]), FixedColor::chargeGreen, m_palette);
         }
     }
 
@@ -88,7 +87,7 @@ private:
 };
 
 CellsPanel::CellsPanel(QWidget *parent)
-    : ReportPanel("cells.status", Glyph::grid, kCellsAccent, parent)
+    : ReportPanel("cells.status", Glyph::grid, FixedColor::cellsAccent, parent)
     , m_source(new PanelText(uiFont(11), ColorRole::secondaryText, 0, 16, 22))
     , m_grid(new Grid)
     , m_absent(new UnavailableNote(110))

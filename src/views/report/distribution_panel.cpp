@@ -71,7 +71,7 @@ void DistributionPanel::setFerrowPalette(const FerrowPalette &palette)
     ReportPanel::setFerrowPalette(palette);
     m_rows->setFerrowPalette(palette);
     // The battery's green or pink is this panel's own choice, so it has to read on a light panel too.
-    m_rows->setLegibleOn(panelGround(palette));
+    m_rows->setLegibleOn(palette.reportPanelBackground());
     m_caption->setFerrowPalette(palette);
 }
 

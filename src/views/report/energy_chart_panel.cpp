@@ -144,14 +144,7 @@ void EnergyChartPanel::setFerrowPalette(const FerrowPalette &palette)
 {
     ReportPanel::setFerrowPalette(palette);
     m_palette = palette;
-    findChild<QWidget *>(QStringLiteral("rangePicker"))
-        ->setStyleSheet(QStringLiteral("#rangePicker { background: %1; border-radius: 7px; }").arg(css(palette.cardTint())));
-    const QString segmentSheet =
-        QStringLiteral("QToolButton { border: none; border-radius: 5px; padding: 3px; color: %1; background: transparent; font-size: 11px; }"
-                       "QToolButton:checked { background: %2; }")
-            .arg(css(palette.primaryText()), css(palette.isDark() ? QColor(255, 255, 255, 46) : QColor(255, 255, 255)));
-    for (QAbstractButton *segment : m_ranges->buttons())
-        segment->setStyleSheet(segmentSheet);
+    styleSegmentedPicker(*findChild<QWidget *>(QStringLiteral("rangePicker")), m_ranges->buttons(), palette, palette.reportPanelBackground());
     m_adapter->setColor(FixedColor::meterInput);
     m_adapter->setBorderColor(FixedColor::meterInput);
     m_battery->setColor(FixedColor::meterCurrent);

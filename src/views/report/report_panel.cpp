@@ -18,11 +18,6 @@ constexpr int kHeaderGap = 14; // between the header and the content
 
 } // namespace
 
-QColor panelGround(const FerrowPalette &palette)
-{
-    return palette.isDark() ? QColor(48, 48, 51) : QColor(253, 253, 254);
-}
-
 void paintProgress(QPainter &painter, const QRectF &rect, double fraction, const QColor &tint, const FerrowPalette &palette)
 {
     painter.save();
@@ -75,7 +70,7 @@ void ReportPanel::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath shape;
     shape.addRoundedRect(ground.adjusted(0.25, 0.25, -0.25, -0.25), 14, 14);
-    painter.fillPath(shape, panelGround(m_palette));
+    painter.fillPath(shape, m_palette.reportPanelBackground());
     QColor outline = m_palette.separator();
     outline.setAlphaF(outline.alphaF() * 0.7f);
     painter.setPen(QPen(outline, 0.5));
@@ -83,7 +78,7 @@ void ReportPanel::paintEvent(QPaintEvent *)
     painter.restore();
 
     const QRectF inner = ground.adjusted(kPadding, kPadding, -kPadding, -kPadding);
-    const QColor accent = m_accent.value_or(m_palette.accent());
+    const QColor accent = m_palette.legible(m_accent.value_or(m_palette.accent()));
     paintGlyph(painter, m_glyph, QRectF(inner.left(), inner.top() + 1, 16, 16), accent);
     painter.setPen(accent);
     drawFittedText(painter, QRectF(inner.left() + 22, inner.top(), inner.width() - 22, kHeaderHeight), m_title, uiFont(13, QFont::DemiBold), 0.85,

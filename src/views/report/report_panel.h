@@ -12,12 +12,6 @@ class QVBoxLayout;
 
 namespace ferrow {
 
-// The green of the battery's panel and of charge bars.
-inline const QColor kChargeGreen(52, 199, 89);
-
-// A panel's fill: a shade lighter than the window, as a material over it would be.
-QColor panelGround(const FerrowPalette &palette);
-
 // A rounded bar filled to fraction (0 to 1) in tint.
 void paintProgress(QPainter &painter, const QRectF &rect, double fraction, const QColor &tint, const FerrowPalette &palette);
 

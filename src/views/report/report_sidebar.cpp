@@ -14,15 +14,6 @@
 #include <QVBoxLayout>
 
 namespace ferrow {
-namespace {
-
-QColor sidebarBackground(const FerrowPalette &palette)
-{
-    return palette.isDark() ? QColor(44, 44, 48) : QColor(232, 232, 236);
-}
-
-} // namespace
-
 ReportSidebar::ReportSidebar(QWidget *parent)
     : QWidget(parent)
     , m_logo(new FerrowLogoLink(34, 8))
@@ -86,15 +77,16 @@ void ReportSidebar::setSnapshot(const PowerSnapshot &s)
 void ReportSidebar::setFerrowPalette(const FerrowPalette &p)
 {
     QPalette ground;
-    ground.setColor(QPalette::Window, sidebarBackground(p));
+    ground.setColor(QPalette::Window, p.sidebarBackground());
     setPalette(ground);
     setTextColor(m_status, p.secondaryText());
     setTextColor(m_updatedAt, p.tertiaryText());
     // The headers' grey is ours to choose, so it is one that reads on the sidebar.
     for (QLabel *header : m_headers)
-        setTextColor(header, readableOn(p.secondaryText(), sidebarBackground(p)));
+        setTextColor(header, readableOn(p.secondaryText(), p.sidebarBackground()));
     for (auto &[section, row] : m_rows)
         row->setFerrowPalette(p);
+    m_logo->setFerrowPalette(p, p.sidebarBackground());
 }
 
 void ReportSidebar::setSelection(MainSection section, bool animated)

@@ -10,12 +10,11 @@
 namespace ferrow {
 
 SidebarRow::SidebarRow(MainSection section, QWidget *parent)
-    : QAbstractButton(parent)
+    : FerrowButton(parent)
     , m_section(section)
 {
     setCheckable(true);
     setFixedHeight(30);
-    setCursor(Qt::PointingHandCursor);
     setAccessibleName(localizedFormatText("accessibility.scroll_to", {localizedText(sectionTitleKey(section))}));
     m_fade.setDuration(160);
     m_fade.setEasingCurve(QEasingCurve::OutQuad);
@@ -60,6 +59,7 @@ void SidebarRow::paintEvent(QPaintEvent *)
     paintGlyph(painter, sectionGlyph(m_section), QRectF(8, 7, 16, 16), m_palette.accent());
     painter.setPen(m_palette.primaryText());
     drawFittedText(painter, QRectF(32, 0, width() - 40, height()), localizedText(sectionTitleKey(m_section)), uiFont(13), 0.85, Qt::AlignLeft);
+    paintFocusRing(painter, QRectF(rect()), 6, m_palette, m_palette.sidebarBackground());
 }
 
 } // namespace ferrow

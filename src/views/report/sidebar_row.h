@@ -1,15 +1,15 @@
 #pragma once
 
+#include "views/ferrow_button.h"
 #include "views/ferrow_palette.h"
 #include "views/main_window_model.h"
 
-#include <QAbstractButton>
 #include <QVariantAnimation>
 
 namespace ferrow {
 
 // A sidebar row: the section's glyph and title, the selection behind it.
-class SidebarRow : public QAbstractButton {
+class SidebarRow : public FerrowButton {
 public:
     explicit SidebarRow(MainSection section, QWidget *parent = nullptr);
 
