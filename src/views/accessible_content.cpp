@@ -222,6 +222,8 @@ void hideFromAccessibility(QWidget *widget)
 
 void announceNameChange(QWidget *widget, int index)
 {
+    if (!QAccessible::isActive())
+        return; // nobody to tell
     QAccessibleInterface *element = QAccessible::queryAccessibleInterface(widget);
     if (element && index >= 0)
         element = element->child(index);
