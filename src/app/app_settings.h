@@ -16,7 +16,7 @@ struct Preferences {
     bool increaseContrast = false; // likewise
     Appearance appearance = Appearance::system;
     bool keepHistory = true; // the energy history database
-    AlertSettings alerts;
+    AlertSettings alerts{};
 
     bool operator==(const Preferences &) const = default;
 };

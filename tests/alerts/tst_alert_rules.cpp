@@ -1,5 +1,6 @@
 #include "alerts/alert_rules.h"
 #include "alerts/alert_text.h"
+#include "alerts/windowed_mean.h"
 #include "app/text_table.h"
 
 #include <QCoreApplication>
@@ -69,7 +70,8 @@ struct Stretch {
     PowerSnapshot reading;
     bool wakeFirst = false;
     double wallJumpS = 0; // the wall clock jumps before it
-    std::optional<double> pastUptimeS; // its readings carry this earlier uptime
+    double pauseS = 0; // time passes without readings before it
+    std::optional<double> pastUptimeS{}; // its readings carry this earlier uptime
 };
 
 Stretch during(int seconds, const PowerSnapshot &reading)
@@ -113,7 +115,8 @@ QStringList feed(AlertRules &rules, const QList<Stretch> &stretches)
     for (const Stretch &stretch : stretches) {
         if (stretch.wakeFirst)
             rules.noteWake(uptimeS);
-        wallS += stretch.wallJumpS;
+        wallS += stretch.wallJumpS + stretch.pauseS;
+        uptimeS += stretch.pauseS;
         for (int i = 0; i < stretch.seconds; ++i) {
             PowerSnapshot reading = stretch.reading;
             reading.updatedAt = start + std::chrono::seconds(static_cast<std::int64_t>(wallS));
@@ -178,8 +181,13 @@ private slots:
             << all << QList{during(600, onBattery(60)), during(121, charging(20, 1.5, 10))} << fires({"slow@720"});
         QTest::newRow("adapter above the 10-minute mean")
             << all << QList{during(600, onBattery(60)), during(300, charging(20, 3.25, 10))} << QStringList{};
+        QTest::newRow("no mean before 10 minutes")
+            << all << QList{during(300, onBattery(60)), during(200, charging(20, 1.5, 10))} << QStringList{};
         QTest::newRow("heavy draw older than 10 minutes")
             << all << QList{during(300, onBattery(100)), during(600, onBattery(10)), during(300, charging(20, 1.5, 10))} << QStringList{};
+        Stretch afterPause = during(300, charging(20, 1.5, 10));
+        afterPause.pauseS = 600;
+        QTest::newRow("a pause in readings ages the mean") << all << QList{during(300, onBattery(100)), afterPause} << QStringList{};
         QTest::newRow("a draw that is not a number is left out")
             << all << QList{during(300, onBattery(kNaN)), during(300, onBattery(60)), during(121, charging(20, 1.5, 10))}
             << fires({"slow@720"});
@@ -242,6 +250,9 @@ private slots:
         QTest::newRow("quiet minute after wake") << QList{during(100, hot), during(2000, cool), woken} << fires({"hot@60", "hot@2160"});
         Stretch afterWake = during(200, falling);
         afterWake.wakeFirst = true;
+        Stretch chargingAfterWake = during(300, charging(20, 1.5, 10));
+        chargingAfterWake.wakeFirst = true;
+        QTest::newRow("mean starts over after wake") << QList{during(600, onBattery(60)), chargingAfterWake} << QStringList{};
         QTest::newRow("hold starts over after wake") << QList{during(100, falling), afterWake} << fires({"charger@220"});
         Stretch back = during(30, falling), ahead = during(31, falling);
         back.wallJumpS = -3600;
@@ -283,6 +294,32 @@ private slots:
         AlertRules rules(settings);
         feed(rules, stretches);
         QCOMPARE(activeAlertText(rules.activeKinds()), line);
+    }
+
+    // The mean over the last ten minutes of readings, or of the last kSlots where they come faster.
+    void windowedMean_data()
+    {
+        QTest::addColumn<double>("stepS");
+        QTest::newRow("once a second") << 1.0;
+        QTest::newRow("twice a second") << 0.5;
+        QTest::newRow("every 5 seconds") << 5.0;
+    }
+
+    void windowedMean()
+    {
+        QFETCH(double, stepS);
+        WindowedMean mean(600);
+        std::vector<std::pair<double, double>> readings;
+        for (int i = 0; i < 2000; ++i) {
+            readings.emplace_back(i * stepS, (i * 37) % 101);
+            mean.add(readings.back().first, readings.back().second);
+        }
+        double sum = 0;
+        int count = 0;
+        for (auto it = readings.rbegin(); it != readings.rend() && it->first > readings.back().first - 600 && count < 600; ++it, ++count)
+            sum += it->second;
+        QVERIFY(mean.mean());
+        QCOMPARE(*mean.mean(), sum / count);
     }
 
     void texts_data()
