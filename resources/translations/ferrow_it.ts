@@ -731,7 +731,7 @@
     </message>
     <message id="alert.charge_level_reached.body">
         <source>The battery has reached the chosen level of %1.</source>
-        <translation>La batteria ha raggiunto il livello scelto del %1.</translation>
+        <translation>La batteria ha raggiunto il livello scelto: %1.</translation>
     </message>
     <message id="alert.for_minutes" numerus="yes">
         <source>for %Ln minutes</source>

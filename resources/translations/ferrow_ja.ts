@@ -677,19 +677,19 @@
     </message>
     <message id="alert.charger_cannot_keep_up.title">
         <source>Charger cannot keep up</source>
-        <translation>充電器の電力が足りません</translation>
+        <translation>充電器の電力不足</translation>
     </message>
     <message id="alert.charger_cannot_keep_up.body">
         <source>The battery has been draining %1 although external power is connected: adapter %2 (%3, %4), system %5, battery %6.</source>
-        <translation>外部電源に接続されているのに、バッテリーが%1放電しています：アダプタ %2（%3、%4）、システム %5、バッテリー %6。</translation>
+        <translation>外部電源に接続されているのに、バッテリーが %1放電しています：アダプタ %2（%3、%4）、システム %5、バッテリー %6。</translation>
     </message>
     <message id="alert.charger_cannot_keep_up.body_unmeasured">
         <source>The battery has been draining %1 although external power is connected: system %2, battery %3.</source>
-        <translation>外部電源に接続されているのに、バッテリーが%1放電しています：システム %2、バッテリー %3。</translation>
+        <translation>外部電源に接続されているのに、バッテリーが %1放電しています：システム %2、バッテリー %3。</translation>
     </message>
     <message id="alert.charging_slowly.title">
         <source>Charging slowly</source>
-        <translation>充電が遅くなっています</translation>
+        <translation>充電速度の低下</translation>
     </message>
     <message id="alert.charging_slowly.body_five_volts">
         <source>The USB-C source supplies only %1, so the battery charges slowly: adapter %2, system %3, battery %4.</source>
@@ -701,7 +701,7 @@
     </message>
     <message id="alert.battery_hot.title">
         <source>Battery hot</source>
-        <translation>バッテリーが高温です</translation>
+        <translation>バッテリー高温</translation>
     </message>
     <message id="alert.battery_hot.body">
         <source>The battery is at %1, at or above the limit of %2.</source>
@@ -709,19 +709,19 @@
     </message>
     <message id="alert.battery_hot.body_charging">
         <source>The battery has been at %1 or warmer %2 while charging: now %3.</source>
-        <translation>充電中にバッテリーが %1 以上の状態が%2続いています：現在 %3。</translation>
+        <translation>充電中にバッテリーが %1 以上の状態が %2続いています：現在 %3。</translation>
     </message>
     <message id="alert.cells_out_of_balance.title">
         <source>Battery cells out of balance</source>
-        <translation>バッテリーセルの電圧が不均衡です</translation>
+        <translation>バッテリーセルの電圧不均衡</translation>
     </message>
     <message id="alert.cells_out_of_balance.body">
         <source>The cell voltages have been more than %1 apart %2 at rest: now %3 apart (%4 to %5).</source>
-        <translation>待機中のセル電圧の差が %1 を超えた状態が%2続いています：現在の差 %3（%4～%5）。</translation>
+        <translation>待機中のセル電圧の差が %1 を超えた状態が %2続いています：現在の差 %3（%4～%5）。</translation>
     </message>
     <message id="alert.charge_level_reached.title">
         <source>Charge level reached</source>
-        <translation>充電レベルに達しました</translation>
+        <translation>充電レベル到達</translation>
     </message>
     <message id="alert.charge_level_reached.body">
         <source>The battery has reached the chosen level of %1.</source>
@@ -742,7 +742,7 @@
     <message id="alert.active_several" numerus="yes">
         <source>%1 and %Ln more</source>
         <translation>
-            <numerusform>%1 ほか %Ln 件</numerusform>
+            <numerusform>%1ほか %Ln 件</numerusform>
         </translation>
     </message>
 </context>

@@ -742,7 +742,7 @@
     <message id="alert.active_several" numerus="yes">
         <source>%1 and %Ln more</source>
         <translation>
-            <numerusform>%1 及其他 %Ln 項</numerusform>
+            <numerusform>%1及其他 %Ln 項</numerusform>
         </translation>
     </message>
 </context>
