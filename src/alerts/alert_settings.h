@@ -24,7 +24,7 @@ struct AlertSettings {
     bool chargingSlowly = true;
     bool batteryHot = true;
     bool cellsOutOfBalance = true;
-    bool chargeLevelReached = false; // asked for, not offered
+    bool chargeLevelReached = false; // only for those who ask
     double hotWhileChargingC = 45.0;
     double hotC = 50.0;
     std::int64_t chargeLevelPercent = 80;
