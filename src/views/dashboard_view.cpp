@@ -137,6 +137,11 @@ void DashboardView::setSubtitle(const QString &subtitle)
     m_header->setSubtitle(subtitle);
 }
 
+void DashboardView::setAlertLine(const QString &line)
+{
+    m_header->setAlertLine(line);
+}
+
 void DashboardView::setVersion(const QString &version)
 {
     m_settings->setVersion(version);

@@ -35,6 +35,7 @@ public:
     void setCurrentSession(std::optional<SessionRecord> session, UnixSeconds now);
     void setFerrowPalette(const FerrowPalette &palette);
     void setSubtitle(const QString &subtitle);
+    void setAlertLine(const QString &line);
     void setVersion(const QString &version);
     void setLaunchAtLogin(bool enabled);
     // One line under the settings saying what the system needs from the user; empty hides it.

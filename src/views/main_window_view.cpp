@@ -303,6 +303,11 @@ void MainWindowView::setPowerNotice(const QString &notice)
     updateEndSpacer();
 }
 
+void MainWindowView::setAlertLine(const QString &line)
+{
+    m_sidebar->setAlertLine(line);
+}
+
 void MainWindowView::setReduceMotion(bool reduceMotion)
 {
     m_reduceMotion = reduceMotion;

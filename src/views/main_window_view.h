@@ -43,6 +43,7 @@ public:
     explicit MainWindowView(QWidget *parent = nullptr);
 
     void setSnapshot(const PowerSnapshot &snapshot);
+    void setAlertLine(const QString &line);
     void setHistory(const PowerHistory &history);
     void setFerrowPalette(const FerrowPalette &palette);
     void setVersion(const QString &version);

@@ -33,6 +33,14 @@ void PopoverHeader::setSubtitle(const QString &subtitle)
     update();
 }
 
+void PopoverHeader::setAlertLine(const QString &line)
+{
+    if (line == m_alertLine)
+        return;
+    m_alertLine = line;
+    update();
+}
+
 void PopoverHeader::ferrowPaletteChanged()
 {
     m_logo->setFerrowPalette(ferrowPalette(), ferrowPalette().panelBackground());
@@ -46,7 +54,7 @@ void PopoverHeader::setReduceMotion(bool reduceMotion)
 std::vector<AccessibleItem> PopoverHeader::accessibleParts() const
 {
     return {{QAccessible::Heading, localizedText("FERROW"), {}},
-            {QAccessible::StaticText, m_subtitle, {}},
+            {QAccessible::StaticText, m_alertLine.isEmpty() ? m_subtitle : m_alertLine, {}},
             {QAccessible::StaticText, liveStatusText(snapshot()), {}}};
 }
 
@@ -76,8 +84,10 @@ void PopoverHeader::paintEvent(QPaintEvent *)
     painter.setPen(palette.primaryText());
     drawFittedText(painter, QRectF(textLeft, area.center().y() - 15, statusLeft - textLeft - 20, 16), localizedText("FERROW"),
                    uiFont(12, QFont::DemiBold), 0.9, Qt::AlignLeft);
-    painter.setPen(palette.secondaryText());
-    drawFittedText(painter, QRectF(textLeft, area.center().y() + 1, statusLeft - textLeft - 20, 13), m_subtitle, uiFont(9), 0.85, Qt::AlignLeft);
+    // An alert in the warning colour, in a tone that reads on the popover.
+    painter.setPen(m_alertLine.isEmpty() ? palette.secondaryText() : readableOn(palette.color(ColorRole::orange), palette.panelBackground()));
+    drawFittedText(painter, QRectF(textLeft, area.center().y() + 1, statusLeft - textLeft - 20, 13), m_alertLine.isEmpty() ? m_subtitle : m_alertLine,
+                   uiFont(9, m_alertLine.isEmpty() ? QFont::Normal : QFont::DemiBold), 0.85, Qt::AlignLeft);
 
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);

@@ -13,6 +13,8 @@ public:
     explicit PopoverHeader(QWidget *parent = nullptr);
 
     void setSubtitle(const QString &subtitle);
+    // An alert that holds now, in words, in place of the subtitle; empty when none.
+    void setAlertLine(const QString &line);
     void setReduceMotion(bool reduceMotion);
     // The title, the subtitle, then the status, which tells a screen reader of a new state.
     std::vector<AccessibleItem> accessibleParts() const override;
@@ -26,6 +28,7 @@ protected:
 private:
     FerrowLogoLink *m_logo;
     QString m_subtitle;
+    QString m_alertLine;
 };
 
 } // namespace ferrow

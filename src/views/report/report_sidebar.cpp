@@ -18,6 +18,7 @@ ReportSidebar::ReportSidebar(QWidget *parent)
     : QWidget(parent)
     , m_logo(new FerrowLogoLink(34, 8))
     , m_status(fontLabel(uiFont(11)))
+    , m_alertLine(fontLabel(uiFont(11, QFont::DemiBold)))
     , m_updatedAt(fontLabel(uiFont(10)))
 {
     setObjectName(QStringLiteral("sidebar"));
@@ -39,6 +40,10 @@ ReportSidebar::ReportSidebar(QWidget *parent)
     m_status->setObjectName(QStringLiteral("sidebarStatus"));
     m_status->setWordWrap(true); // a narrow sidebar takes a longer status on two lines
     brandText->addWidget(m_status);
+    m_alertLine->setObjectName(QStringLiteral("sidebarAlert"));
+    m_alertLine->setWordWrap(true);
+    m_alertLine->hide();
+    brandText->addWidget(m_alertLine);
     brand->addLayout(brandText, 1);
     column->addLayout(brand);
 
@@ -80,6 +85,7 @@ void ReportSidebar::setFerrowPalette(const FerrowPalette &p)
     ground.setColor(QPalette::Window, p.sidebarBackground());
     setPalette(ground);
     setTextColor(m_status, p.secondaryText());
+    setTextColor(m_alertLine, readableOn(p.color(ColorRole::orange), p.sidebarBackground()));
     setTextColor(m_updatedAt, p.tertiaryText());
     // The headers' grey is ours to choose, so it is one that reads on the sidebar.
     for (QLabel *header : m_headers)
@@ -87,6 +93,14 @@ void ReportSidebar::setFerrowPalette(const FerrowPalette &p)
     for (auto &[section, row] : m_rows)
         row->setFerrowPalette(p);
     m_logo->setFerrowPalette(p, p.sidebarBackground());
+}
+
+void ReportSidebar::setAlertLine(const QString &line)
+{
+    if (line == m_alertLine->text())
+        return;
+    m_alertLine->setText(line);
+    m_alertLine->setVisible(!line.isEmpty());
 }
 
 void ReportSidebar::setSelection(MainSection section, bool animated)

@@ -24,6 +24,8 @@ public:
     explicit ReportSidebar(QWidget *parent = nullptr);
 
     void setSnapshot(const PowerSnapshot &snapshot);
+    // An alert that holds now, in words, under the state; empty when none.
+    void setAlertLine(const QString &line);
     void setFerrowPalette(const FerrowPalette &palette);
     void setSelection(MainSection section, bool animated);
     // Stills the logo's hover.
@@ -35,6 +37,7 @@ signals:
 private:
     FerrowLogoLink *m_logo;
     QLabel *m_status;
+    QLabel *m_alertLine;
     QLabel *m_updatedAt;
     std::vector<QLabel *> m_headers;
     std::map<MainSection, SidebarRow *> m_rows;
