@@ -90,7 +90,8 @@ private slots:
         config.write(QStringLiteral("<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-BUS Bus Configuration 1.0//EN\"\n"
                                     " \"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">\n"
                                     "<busconfig><type>session</type><listen>unix:dir=%1</listen><servicedir>%1/services</servicedir>"
-                                    "<policy context=\"default\"><allow send_destination=\"*\"/><allow own=\"*\"/></policy></busconfig>\n")
+                                    "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/><allow eavesdrop=\"true\"/>"
+                                    "<allow own=\"*\"/></policy></busconfig>\n")
                          .arg(m_folder.path())
                          .toUtf8());
         config.close();
