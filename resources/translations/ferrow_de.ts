@@ -681,5 +681,78 @@
         <source>Adapter %1 and battery %2 to system %3</source>
         <translation>Netzteil %1 und Akku %2 an System %3</translation>
     </message>
+    <message id="alert.charger_cannot_keep_up.title">
+        <source>Charger cannot keep up</source>
+        <translation>Netzteil kommt nicht nach</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body">
+        <source>The battery has been draining %1 although external power is connected: adapter %2 (%3, %4), system %5, battery %6.</source>
+        <translation>Der Akku entlädt sich %1, obwohl externe Stromversorgung angeschlossen ist: Netzteil %2 (%3, %4), System %5, Akku %6.</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body_unmeasured">
+        <source>The battery has been draining %1 although external power is connected: system %2, battery %3.</source>
+        <translation>Der Akku entlädt sich %1, obwohl externe Stromversorgung angeschlossen ist: System %2, Akku %3.</translation>
+    </message>
+    <message id="alert.charging_slowly.title">
+        <source>Charging slowly</source>
+        <translation>Akku lädt langsam</translation>
+    </message>
+    <message id="alert.charging_slowly.body_five_volts">
+        <source>The USB-C source supplies only %1, so the battery charges slowly: adapter %2, system %3, battery %4.</source>
+        <translation>Die USB-C-Quelle liefert nur %1, daher lädt der Akku langsam: Netzteil %2, System %3, Akku %4.</translation>
+    </message>
+    <message id="alert.charging_slowly.body_adapter">
+        <source>The adapter supplies less than the system drew on average %1, so the battery charges slowly: adapter %2, system %3.</source>
+        <translation>Das Netzteil liefert weniger, als das System %1 im Mittel verbraucht hat, daher lädt der Akku langsam: Netzteil %2, System %3.</translation>
+    </message>
+    <message id="alert.battery_hot.title">
+        <source>Battery hot</source>
+        <translation>Akku heiß</translation>
+    </message>
+    <message id="alert.battery_hot.body">
+        <source>The battery is at %1, at or above the limit of %2.</source>
+        <translation>Der Akku hat %1 und liegt damit an oder über der Grenze von %2.</translation>
+    </message>
+    <message id="alert.battery_hot.body_charging">
+        <source>The battery has been at %1 or warmer %2 while charging: now %3.</source>
+        <translation>Der Akku hat beim Laden %1 oder mehr, und das %2: jetzt %3.</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.title">
+        <source>Battery cells out of balance</source>
+        <translation>Akkuzellen unausgeglichen</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.body">
+        <source>The cell voltages have been more than %1 apart %2 at rest: now %3 apart (%4 to %5).</source>
+        <translation>Die Zellspannungen liegen in Ruhe mehr als %1 auseinander, und das %2: jetzt %3 (%4 bis %5).</translation>
+    </message>
+    <message id="alert.charge_level_reached.title">
+        <source>Charge level reached</source>
+        <translation>Ladestand erreicht</translation>
+    </message>
+    <message id="alert.charge_level_reached.body">
+        <source>The battery has reached the chosen level of %1.</source>
+        <translation>Der Akku hat den gewählten Ladestand von %1 erreicht.</translation>
+    </message>
+    <message id="alert.for_minutes" numerus="yes">
+        <source>for %Ln minutes</source>
+        <translation>
+            <numerusform>seit %Ln Minute</numerusform>
+            <numerusform>seit %Ln Minuten</numerusform>
+        </translation>
+    </message>
+    <message id="alert.over_last_minutes" numerus="yes">
+        <source>over the last %Ln minutes</source>
+        <translation>
+            <numerusform>in der letzten %Ln Minute</numerusform>
+            <numerusform>in den letzten %Ln Minuten</numerusform>
+        </translation>
+    </message>
+    <message id="alert.active_several" numerus="yes">
+        <source>%1 and %Ln more</source>
+        <translation>
+            <numerusform>%1 und %Ln weitere</numerusform>
+            <numerusform>%1 und %Ln weitere</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

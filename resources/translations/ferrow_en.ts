@@ -681,5 +681,78 @@
         <source>Adapter %1 and battery %2 to system %3</source>
         <translation>Adapter %1 and battery %2 to system %3</translation>
     </message>
+    <message id="alert.charger_cannot_keep_up.title">
+        <source>Charger cannot keep up</source>
+        <translation>Charger cannot keep up</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body">
+        <source>The battery has been draining %1 although external power is connected: adapter %2 (%3, %4), system %5, battery %6.</source>
+        <translation>The battery has been draining %1 although external power is connected: adapter %2 (%3, %4), system %5, battery %6.</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body_unmeasured">
+        <source>The battery has been draining %1 although external power is connected: system %2, battery %3.</source>
+        <translation>The battery has been draining %1 although external power is connected: system %2, battery %3.</translation>
+    </message>
+    <message id="alert.charging_slowly.title">
+        <source>Charging slowly</source>
+        <translation>Charging slowly</translation>
+    </message>
+    <message id="alert.charging_slowly.body_five_volts">
+        <source>The USB-C source supplies only %1, so the battery charges slowly: adapter %2, system %3, battery %4.</source>
+        <translation>The USB-C source supplies only %1, so the battery charges slowly: adapter %2, system %3, battery %4.</translation>
+    </message>
+    <message id="alert.charging_slowly.body_adapter">
+        <source>The adapter supplies less than the system drew on average %1, so the battery charges slowly: adapter %2, system %3.</source>
+        <translation>The adapter supplies less than the system drew on average %1, so the battery charges slowly: adapter %2, system %3.</translation>
+    </message>
+    <message id="alert.battery_hot.title">
+        <source>Battery hot</source>
+        <translation>Battery hot</translation>
+    </message>
+    <message id="alert.battery_hot.body">
+        <source>The battery is at %1, at or above the limit of %2.</source>
+        <translation>The battery is at %1, at or above the limit of %2.</translation>
+    </message>
+    <message id="alert.battery_hot.body_charging">
+        <source>The battery has been at %1 or warmer %2 while charging: now %3.</source>
+        <translation>The battery has been at %1 or warmer %2 while charging: now %3.</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.title">
+        <source>Battery cells out of balance</source>
+        <translation>Battery cells out of balance</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.body">
+        <source>The cell voltages have been more than %1 apart %2 at rest: now %3 apart (%4 to %5).</source>
+        <translation>The cell voltages have been more than %1 apart %2 at rest: now %3 apart (%4 to %5).</translation>
+    </message>
+    <message id="alert.charge_level_reached.title">
+        <source>Charge level reached</source>
+        <translation>Charge level reached</translation>
+    </message>
+    <message id="alert.charge_level_reached.body">
+        <source>The battery has reached the chosen level of %1.</source>
+        <translation>The battery has reached the chosen level of %1.</translation>
+    </message>
+    <message id="alert.for_minutes" numerus="yes">
+        <source>for %Ln minutes</source>
+        <translation>
+            <numerusform>for %Ln minute</numerusform>
+            <numerusform>for %Ln minutes</numerusform>
+        </translation>
+    </message>
+    <message id="alert.over_last_minutes" numerus="yes">
+        <source>over the last %Ln minutes</source>
+        <translation>
+            <numerusform>over the last %Ln minute</numerusform>
+            <numerusform>over the last %Ln minutes</numerusform>
+        </translation>
+    </message>
+    <message id="alert.active_several" numerus="yes">
+        <source>%1 and %Ln more</source>
+        <translation>
+            <numerusform>%1 and %Ln more</numerusform>
+            <numerusform>%1 and %Ln more</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

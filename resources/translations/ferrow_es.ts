@@ -681,5 +681,78 @@
         <source>Adapter %1 and battery %2 to system %3</source>
         <translation>Adaptador %1 y batería %2 al sistema %3</translation>
     </message>
+    <message id="alert.charger_cannot_keep_up.title">
+        <source>Charger cannot keep up</source>
+        <translation>El cargador no da abasto</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body">
+        <source>The battery has been draining %1 although external power is connected: adapter %2 (%3, %4), system %5, battery %6.</source>
+        <translation>La batería se está descargando %1 aunque hay alimentación externa conectada: adaptador %2 (%3, %4), sistema %5, batería %6.</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body_unmeasured">
+        <source>The battery has been draining %1 although external power is connected: system %2, battery %3.</source>
+        <translation>La batería se está descargando %1 aunque hay alimentación externa conectada: sistema %2, batería %3.</translation>
+    </message>
+    <message id="alert.charging_slowly.title">
+        <source>Charging slowly</source>
+        <translation>Carga lenta</translation>
+    </message>
+    <message id="alert.charging_slowly.body_five_volts">
+        <source>The USB-C source supplies only %1, so the battery charges slowly: adapter %2, system %3, battery %4.</source>
+        <translation>La fuente USB-C solo suministra %1, por lo que la batería se carga lentamente: adaptador %2, sistema %3, batería %4.</translation>
+    </message>
+    <message id="alert.charging_slowly.body_adapter">
+        <source>The adapter supplies less than the system drew on average %1, so the battery charges slowly: adapter %2, system %3.</source>
+        <translation>El adaptador suministra menos de lo que el sistema consumió de media %1, por lo que la batería se carga lentamente: adaptador %2, sistema %3.</translation>
+    </message>
+    <message id="alert.battery_hot.title">
+        <source>Battery hot</source>
+        <translation>Batería caliente</translation>
+    </message>
+    <message id="alert.battery_hot.body">
+        <source>The battery is at %1, at or above the limit of %2.</source>
+        <translation>La batería está a %1, en el límite de %2 o por encima.</translation>
+    </message>
+    <message id="alert.battery_hot.body_charging">
+        <source>The battery has been at %1 or warmer %2 while charging: now %3.</source>
+        <translation>La batería está a %1 o más durante la carga, y así %2: ahora %3.</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.title">
+        <source>Battery cells out of balance</source>
+        <translation>Celdas de la batería desequilibradas</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.body">
+        <source>The cell voltages have been more than %1 apart %2 at rest: now %3 apart (%4 to %5).</source>
+        <translation>Las tensiones de las celdas difieren en más de %1 en reposo, y así %2: ahora %3 de diferencia (de %4 a %5).</translation>
+    </message>
+    <message id="alert.charge_level_reached.title">
+        <source>Charge level reached</source>
+        <translation>Nivel de carga alcanzado</translation>
+    </message>
+    <message id="alert.charge_level_reached.body">
+        <source>The battery has reached the chosen level of %1.</source>
+        <translation>La batería ha alcanzado el nivel elegido del %1.</translation>
+    </message>
+    <message id="alert.for_minutes" numerus="yes">
+        <source>for %Ln minutes</source>
+        <translation>
+            <numerusform>desde hace %Ln minuto</numerusform>
+            <numerusform>desde hace %Ln minutos</numerusform>
+        </translation>
+    </message>
+    <message id="alert.over_last_minutes" numerus="yes">
+        <source>over the last %Ln minutes</source>
+        <translation>
+            <numerusform>en el último %Ln minuto</numerusform>
+            <numerusform>en los últimos %Ln minutos</numerusform>
+        </translation>
+    </message>
+    <message id="alert.active_several" numerus="yes">
+        <source>%1 and %Ln more</source>
+        <translation>
+            <numerusform>%1 y %Ln más</numerusform>
+            <numerusform>%1 y %Ln más</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -681,5 +681,78 @@
         <source>Adapter %1 and battery %2 to system %3</source>
         <translation>Adaptateur %1 et batterie %2 vers le système %3</translation>
     </message>
+    <message id="alert.charger_cannot_keep_up.title">
+        <source>Charger cannot keep up</source>
+        <translation>Le chargeur ne suffit pas</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body">
+        <source>The battery has been draining %1 although external power is connected: adapter %2 (%3, %4), system %5, battery %6.</source>
+        <translation>La batterie se décharge %1 alors que l’alimentation externe est branchée : adaptateur %2 (%3, %4), système %5, batterie %6.</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body_unmeasured">
+        <source>The battery has been draining %1 although external power is connected: system %2, battery %3.</source>
+        <translation>La batterie se décharge %1 alors que l’alimentation externe est branchée : système %2, batterie %3.</translation>
+    </message>
+    <message id="alert.charging_slowly.title">
+        <source>Charging slowly</source>
+        <translation>Charge lente</translation>
+    </message>
+    <message id="alert.charging_slowly.body_five_volts">
+        <source>The USB-C source supplies only %1, so the battery charges slowly: adapter %2, system %3, battery %4.</source>
+        <translation>La source USB-C ne fournit que %1, la batterie se charge donc lentement : adaptateur %2, système %3, batterie %4.</translation>
+    </message>
+    <message id="alert.charging_slowly.body_adapter">
+        <source>The adapter supplies less than the system drew on average %1, so the battery charges slowly: adapter %2, system %3.</source>
+        <translation>L’adaptateur fournit moins que la consommation moyenne du système %1, la batterie se charge donc lentement : adaptateur %2, système %3.</translation>
+    </message>
+    <message id="alert.battery_hot.title">
+        <source>Battery hot</source>
+        <translation>Batterie chaude</translation>
+    </message>
+    <message id="alert.battery_hot.body">
+        <source>The battery is at %1, at or above the limit of %2.</source>
+        <translation>La batterie est à %1, au niveau ou au-delà de la limite de %2.</translation>
+    </message>
+    <message id="alert.battery_hot.body_charging">
+        <source>The battery has been at %1 or warmer %2 while charging: now %3.</source>
+        <translation>La batterie est à %1 ou plus pendant la charge, et ce %2 : actuellement %3.</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.title">
+        <source>Battery cells out of balance</source>
+        <translation>Cellules de la batterie déséquilibrées</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.body">
+        <source>The cell voltages have been more than %1 apart %2 at rest: now %3 apart (%4 to %5).</source>
+        <translation>Les tensions des cellules s’écartent de plus de %1 au repos, et ce %2 : actuellement %3 d’écart (de %4 à %5).</translation>
+    </message>
+    <message id="alert.charge_level_reached.title">
+        <source>Charge level reached</source>
+        <translation>Niveau de charge atteint</translation>
+    </message>
+    <message id="alert.charge_level_reached.body">
+        <source>The battery has reached the chosen level of %1.</source>
+        <translation>La batterie a atteint le niveau choisi de %1.</translation>
+    </message>
+    <message id="alert.for_minutes" numerus="yes">
+        <source>for %Ln minutes</source>
+        <translation>
+            <numerusform>depuis %Ln minute</numerusform>
+            <numerusform>depuis %Ln minutes</numerusform>
+        </translation>
+    </message>
+    <message id="alert.over_last_minutes" numerus="yes">
+        <source>over the last %Ln minutes</source>
+        <translation>
+            <numerusform>sur la dernière %Ln minute</numerusform>
+            <numerusform>sur les %Ln dernières minutes</numerusform>
+        </translation>
+    </message>
+    <message id="alert.active_several" numerus="yes">
+        <source>%1 and %Ln more</source>
+        <translation>
+            <numerusform>%1 et %Ln autre</numerusform>
+            <numerusform>%1 et %Ln autres</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -681,5 +681,78 @@
         <source>Adapter %1 and battery %2 to system %3</source>
         <translation>Alimentatore %1 e batteria %2 al sistema %3</translation>
     </message>
+    <message id="alert.charger_cannot_keep_up.title">
+        <source>Charger cannot keep up</source>
+        <translation>L’alimentatore non basta</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body">
+        <source>The battery has been draining %1 although external power is connected: adapter %2 (%3, %4), system %5, battery %6.</source>
+        <translation>La batteria si sta scaricando %1 nonostante l’alimentazione esterna sia collegata: alimentatore %2 (%3, %4), sistema %5, batteria %6.</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body_unmeasured">
+        <source>The battery has been draining %1 although external power is connected: system %2, battery %3.</source>
+        <translation>La batteria si sta scaricando %1 nonostante l’alimentazione esterna sia collegata: sistema %2, batteria %3.</translation>
+    </message>
+    <message id="alert.charging_slowly.title">
+        <source>Charging slowly</source>
+        <translation>Ricarica lenta</translation>
+    </message>
+    <message id="alert.charging_slowly.body_five_volts">
+        <source>The USB-C source supplies only %1, so the battery charges slowly: adapter %2, system %3, battery %4.</source>
+        <translation>La sorgente USB-C fornisce solo %1, quindi la batteria si ricarica lentamente: alimentatore %2, sistema %3, batteria %4.</translation>
+    </message>
+    <message id="alert.charging_slowly.body_adapter">
+        <source>The adapter supplies less than the system drew on average %1, so the battery charges slowly: adapter %2, system %3.</source>
+        <translation>L’alimentatore fornisce meno di quanto il sistema ha consumato in media %1, quindi la batteria si ricarica lentamente: alimentatore %2, sistema %3.</translation>
+    </message>
+    <message id="alert.battery_hot.title">
+        <source>Battery hot</source>
+        <translation>Batteria calda</translation>
+    </message>
+    <message id="alert.battery_hot.body">
+        <source>The battery is at %1, at or above the limit of %2.</source>
+        <translation>La batteria è a %1, pari o oltre il limite di %2.</translation>
+    </message>
+    <message id="alert.battery_hot.body_charging">
+        <source>The battery has been at %1 or warmer %2 while charging: now %3.</source>
+        <translation>Durante la ricarica la batteria è a %1 o più, e lo è %2: ora %3.</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.title">
+        <source>Battery cells out of balance</source>
+        <translation>Celle della batteria sbilanciate</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.body">
+        <source>The cell voltages have been more than %1 apart %2 at rest: now %3 apart (%4 to %5).</source>
+        <translation>Le tensioni delle celle differiscono di oltre %1 a riposo, e lo fanno %2: ora di %3 (da %4 a %5).</translation>
+    </message>
+    <message id="alert.charge_level_reached.title">
+        <source>Charge level reached</source>
+        <translation>Livello di carica raggiunto</translation>
+    </message>
+    <message id="alert.charge_level_reached.body">
+        <source>The battery has reached the chosen level of %1.</source>
+        <translation>La batteria ha raggiunto il livello scelto: %1.</translation>
+    </message>
+    <message id="alert.for_minutes" numerus="yes">
+        <source>for %Ln minutes</source>
+        <translation>
+            <numerusform>da %Ln minuto</numerusform>
+            <numerusform>da %Ln minuti</numerusform>
+        </translation>
+    </message>
+    <message id="alert.over_last_minutes" numerus="yes">
+        <source>over the last %Ln minutes</source>
+        <translation>
+            <numerusform>nell’ultimo %Ln minuto</numerusform>
+            <numerusform>negli ultimi %Ln minuti</numerusform>
+        </translation>
+    </message>
+    <message id="alert.active_several" numerus="yes">
+        <source>%1 and %Ln more</source>
+        <translation>
+            <numerusform>%1 e %Ln altro</numerusform>
+            <numerusform>%1 e altri %Ln</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -675,5 +675,75 @@
         <source>Adapter %1 and battery %2 to system %3</source>
         <translation>アダプタ %1 とバッテリー %2 からシステム %3 へ</translation>
     </message>
+    <message id="alert.charger_cannot_keep_up.title">
+        <source>Charger cannot keep up</source>
+        <translation>充電器の電力不足</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body">
+        <source>The battery has been draining %1 although external power is connected: adapter %2 (%3, %4), system %5, battery %6.</source>
+        <translation>外部電源に接続されているのに、バッテリーが %1放電しています：アダプタ %2（%3、%4）、システム %5、バッテリー %6。</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body_unmeasured">
+        <source>The battery has been draining %1 although external power is connected: system %2, battery %3.</source>
+        <translation>外部電源に接続されているのに、バッテリーが %1放電しています：システム %2、バッテリー %3。</translation>
+    </message>
+    <message id="alert.charging_slowly.title">
+        <source>Charging slowly</source>
+        <translation>充電速度の低下</translation>
+    </message>
+    <message id="alert.charging_slowly.body_five_volts">
+        <source>The USB-C source supplies only %1, so the battery charges slowly: adapter %2, system %3, battery %4.</source>
+        <translation>USB-C 電源の供給が %1 のみのため、充電が遅くなっています：アダプタ %2、システム %3、バッテリー %4。</translation>
+    </message>
+    <message id="alert.charging_slowly.body_adapter">
+        <source>The adapter supplies less than the system drew on average %1, so the battery charges slowly: adapter %2, system %3.</source>
+        <translation>アダプタの供給が%1のシステムの平均消費電力を下回っているため、充電が遅くなっています：アダプタ %2、システム %3。</translation>
+    </message>
+    <message id="alert.battery_hot.title">
+        <source>Battery hot</source>
+        <translation>バッテリー高温</translation>
+    </message>
+    <message id="alert.battery_hot.body">
+        <source>The battery is at %1, at or above the limit of %2.</source>
+        <translation>バッテリーが %1 で、上限の %2 以上です。</translation>
+    </message>
+    <message id="alert.battery_hot.body_charging">
+        <source>The battery has been at %1 or warmer %2 while charging: now %3.</source>
+        <translation>充電中にバッテリーが %1 以上の状態が %2続いています：現在 %3。</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.title">
+        <source>Battery cells out of balance</source>
+        <translation>バッテリーセルの電圧不均衡</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.body">
+        <source>The cell voltages have been more than %1 apart %2 at rest: now %3 apart (%4 to %5).</source>
+        <translation>待機中のセル電圧の差が %1 を超えた状態が %2続いています：現在の差 %3（%4～%5）。</translation>
+    </message>
+    <message id="alert.charge_level_reached.title">
+        <source>Charge level reached</source>
+        <translation>充電レベル到達</translation>
+    </message>
+    <message id="alert.charge_level_reached.body">
+        <source>The battery has reached the chosen level of %1.</source>
+        <translation>バッテリーが設定したレベルの %1 に達しました。</translation>
+    </message>
+    <message id="alert.for_minutes" numerus="yes">
+        <source>for %Ln minutes</source>
+        <translation>
+            <numerusform>%Ln 分間</numerusform>
+        </translation>
+    </message>
+    <message id="alert.over_last_minutes" numerus="yes">
+        <source>over the last %Ln minutes</source>
+        <translation>
+            <numerusform>過去 %Ln 分間</numerusform>
+        </translation>
+    </message>
+    <message id="alert.active_several" numerus="yes">
+        <source>%1 and %Ln more</source>
+        <translation>
+            <numerusform>%1ほか %Ln 件</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

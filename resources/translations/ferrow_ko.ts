@@ -675,5 +675,75 @@
         <source>Adapter %1 and battery %2 to system %3</source>
         <translation>어댑터 %1 및 배터리 %2에서 시스템 %3(으)로</translation>
     </message>
+    <message id="alert.charger_cannot_keep_up.title">
+        <source>Charger cannot keep up</source>
+        <translation>충전기 전력 부족</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body">
+        <source>The battery has been draining %1 although external power is connected: adapter %2 (%3, %4), system %5, battery %6.</source>
+        <translation>외부 전원이 연결되어 있는데도 배터리가 %1 방전되고 있습니다: 어댑터 %2(%3, %4), 시스템 %5, 배터리 %6.</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body_unmeasured">
+        <source>The battery has been draining %1 although external power is connected: system %2, battery %3.</source>
+        <translation>외부 전원이 연결되어 있는데도 배터리가 %1 방전되고 있습니다: 시스템 %2, 배터리 %3.</translation>
+    </message>
+    <message id="alert.charging_slowly.title">
+        <source>Charging slowly</source>
+        <translation>느린 충전</translation>
+    </message>
+    <message id="alert.charging_slowly.body_five_volts">
+        <source>The USB-C source supplies only %1, so the battery charges slowly: adapter %2, system %3, battery %4.</source>
+        <translation>USB-C 전원이 %1만 공급하여 배터리가 느리게 충전됩니다: 어댑터 %2, 시스템 %3, 배터리 %4.</translation>
+    </message>
+    <message id="alert.charging_slowly.body_adapter">
+        <source>The adapter supplies less than the system drew on average %1, so the battery charges slowly: adapter %2, system %3.</source>
+        <translation>어댑터 공급 전력이 %1 시스템 평균 소비 전력보다 적어 배터리가 느리게 충전됩니다: 어댑터 %2, 시스템 %3.</translation>
+    </message>
+    <message id="alert.battery_hot.title">
+        <source>Battery hot</source>
+        <translation>배터리 과열</translation>
+    </message>
+    <message id="alert.battery_hot.body">
+        <source>The battery is at %1, at or above the limit of %2.</source>
+        <translation>배터리 온도 %1: 한도 %2 이상입니다.</translation>
+    </message>
+    <message id="alert.battery_hot.body_charging">
+        <source>The battery has been at %1 or warmer %2 while charging: now %3.</source>
+        <translation>충전 중 배터리 온도가 %1 이상인 상태가 %2 계속되었습니다: 현재 %3.</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.title">
+        <source>Battery cells out of balance</source>
+        <translation>배터리 셀 불균형</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.body">
+        <source>The cell voltages have been more than %1 apart %2 at rest: now %3 apart (%4 to %5).</source>
+        <translation>대기 중 셀 전압 차이 %1 초과 상태가 %2 계속되었습니다: 현재 차이 %3(%4~%5).</translation>
+    </message>
+    <message id="alert.charge_level_reached.title">
+        <source>Charge level reached</source>
+        <translation>충전 레벨 도달</translation>
+    </message>
+    <message id="alert.charge_level_reached.body">
+        <source>The battery has reached the chosen level of %1.</source>
+        <translation>배터리가 선택한 레벨인 %1에 도달했습니다.</translation>
+    </message>
+    <message id="alert.for_minutes" numerus="yes">
+        <source>for %Ln minutes</source>
+        <translation>
+            <numerusform>%Ln분 동안</numerusform>
+        </translation>
+    </message>
+    <message id="alert.over_last_minutes" numerus="yes">
+        <source>over the last %Ln minutes</source>
+        <translation>
+            <numerusform>최근 %Ln분간</numerusform>
+        </translation>
+    </message>
+    <message id="alert.active_several" numerus="yes">
+        <source>%1 and %Ln more</source>
+        <translation>
+            <numerusform>%1 외 %Ln건</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -687,5 +687,81 @@
         <source>Adapter %1 and battery %2 to system %3</source>
         <translation>Zasilacz %1 i bateria %2 do systemu %3</translation>
     </message>
+    <message id="alert.charger_cannot_keep_up.title">
+        <source>Charger cannot keep up</source>
+        <translation>Zasilacz nie nadąża</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body">
+        <source>The battery has been draining %1 although external power is connected: adapter %2 (%3, %4), system %5, battery %6.</source>
+        <translation>Bateria rozładowuje się %1, mimo że podłączone jest zasilanie zewnętrzne: zasilacz %2 (%3, %4), system %5, bateria %6.</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body_unmeasured">
+        <source>The battery has been draining %1 although external power is connected: system %2, battery %3.</source>
+        <translation>Bateria rozładowuje się %1, mimo że podłączone jest zasilanie zewnętrzne: system %2, bateria %3.</translation>
+    </message>
+    <message id="alert.charging_slowly.title">
+        <source>Charging slowly</source>
+        <translation>Wolne ładowanie</translation>
+    </message>
+    <message id="alert.charging_slowly.body_five_volts">
+        <source>The USB-C source supplies only %1, so the battery charges slowly: adapter %2, system %3, battery %4.</source>
+        <translation>Źródło USB-C dostarcza tylko %1, więc bateria ładuje się wolno: zasilacz %2, system %3, bateria %4.</translation>
+    </message>
+    <message id="alert.charging_slowly.body_adapter">
+        <source>The adapter supplies less than the system drew on average %1, so the battery charges slowly: adapter %2, system %3.</source>
+        <translation>Zasilacz dostarcza mniej, niż system pobierał średnio %1, więc bateria ładuje się wolno: zasilacz %2, system %3.</translation>
+    </message>
+    <message id="alert.battery_hot.title">
+        <source>Battery hot</source>
+        <translation>Bateria gorąca</translation>
+    </message>
+    <message id="alert.battery_hot.body">
+        <source>The battery is at %1, at or above the limit of %2.</source>
+        <translation>Bateria ma %1, czyli osiąga lub przekracza limit %2.</translation>
+    </message>
+    <message id="alert.battery_hot.body_charging">
+        <source>The battery has been at %1 or warmer %2 while charging: now %3.</source>
+        <translation>Podczas ładowania bateria ma %1 lub więcej, i to %2: teraz %3.</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.title">
+        <source>Battery cells out of balance</source>
+        <translation>Ogniwa baterii niezrównoważone</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.body">
+        <source>The cell voltages have been more than %1 apart %2 at rest: now %3 apart (%4 to %5).</source>
+        <translation>Napięcia ogniw w spoczynku różnią się o ponad %1, i to %2: teraz o %3 (od %4 do %5).</translation>
+    </message>
+    <message id="alert.charge_level_reached.title">
+        <source>Charge level reached</source>
+        <translation>Osiągnięto poziom naładowania</translation>
+    </message>
+    <message id="alert.charge_level_reached.body">
+        <source>The battery has reached the chosen level of %1.</source>
+        <translation>Bateria osiągnęła wybrany poziom %1.</translation>
+    </message>
+    <message id="alert.for_minutes" numerus="yes">
+        <source>for %Ln minutes</source>
+        <translation>
+            <numerusform>od %Ln minuty</numerusform>
+            <numerusform>od %Ln minut</numerusform>
+            <numerusform>od %Ln minut</numerusform>
+        </translation>
+    </message>
+    <message id="alert.over_last_minutes" numerus="yes">
+        <source>over the last %Ln minutes</source>
+        <translation>
+            <numerusform>przez ostatnią %Ln minutę</numerusform>
+            <numerusform>przez ostatnie %Ln minuty</numerusform>
+            <numerusform>przez ostatnie %Ln minut</numerusform>
+        </translation>
+    </message>
+    <message id="alert.active_several" numerus="yes">
+        <source>%1 and %Ln more</source>
+        <translation>
+            <numerusform>%1 i jeszcze %Ln</numerusform>
+            <numerusform>%1 i jeszcze %Ln</numerusform>
+            <numerusform>%1 i jeszcze %Ln</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -687,5 +687,81 @@
         <source>Adapter %1 and battery %2 to system %3</source>
         <translation>Адаптер %1 и аккумулятор %2 в систему %3</translation>
     </message>
+    <message id="alert.charger_cannot_keep_up.title">
+        <source>Charger cannot keep up</source>
+        <translation>Зарядное устройство не справляется</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body">
+        <source>The battery has been draining %1 although external power is connected: adapter %2 (%3, %4), system %5, battery %6.</source>
+        <translation>Аккумулятор разряжается %1, хотя подключено внешнее питание: адаптер %2 (%3, %4), система %5, аккумулятор %6.</translation>
+    </message>
+    <message id="alert.charger_cannot_keep_up.body_unmeasured">
+        <source>The battery has been draining %1 although external power is connected: system %2, battery %3.</source>
+        <translation>Аккумулятор разряжается %1, хотя подключено внешнее питание: система %2, аккумулятор %3.</translation>
+    </message>
+    <message id="alert.charging_slowly.title">
+        <source>Charging slowly</source>
+        <translation>Медленная зарядка</translation>
+    </message>
+    <message id="alert.charging_slowly.body_five_volts">
+        <source>The USB-C source supplies only %1, so the battery charges slowly: adapter %2, system %3, battery %4.</source>
+        <translation>Источник USB-C даёт только %1, поэтому аккумулятор заряжается медленно: адаптер %2, система %3, аккумулятор %4.</translation>
+    </message>
+    <message id="alert.charging_slowly.body_adapter">
+        <source>The adapter supplies less than the system drew on average %1, so the battery charges slowly: adapter %2, system %3.</source>
+        <translation>Адаптер даёт меньше, чем система в среднем потребляла %1, поэтому аккумулятор заряжается медленно: адаптер %2, система %3.</translation>
+    </message>
+    <message id="alert.battery_hot.title">
+        <source>Battery hot</source>
+        <translation>Аккумулятор перегрет</translation>
+    </message>
+    <message id="alert.battery_hot.body">
+        <source>The battery is at %1, at or above the limit of %2.</source>
+        <translation>Температура аккумулятора %1 — на пределе %2 или выше.</translation>
+    </message>
+    <message id="alert.battery_hot.body_charging">
+        <source>The battery has been at %1 or warmer %2 while charging: now %3.</source>
+        <translation>При зарядке аккумулятор нагрет до %1 и выше, и так %2: сейчас %3.</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.title">
+        <source>Battery cells out of balance</source>
+        <translation>Дисбаланс ячеек аккумулятора</translation>
+    </message>
+    <message id="alert.cells_out_of_balance.body">
+        <source>The cell voltages have been more than %1 apart %2 at rest: now %3 apart (%4 to %5).</source>
+        <translation>Напряжения ячеек в покое расходятся более чем на %1, и так %2: сейчас на %3 (от %4 до %5).</translation>
+    </message>
+    <message id="alert.charge_level_reached.title">
+        <source>Charge level reached</source>
+        <translation>Уровень заряда достигнут</translation>
+    </message>
+    <message id="alert.charge_level_reached.body">
+        <source>The battery has reached the chosen level of %1.</source>
+        <translation>Аккумулятор зарядился до выбранного уровня %1.</translation>
+    </message>
+    <message id="alert.for_minutes" numerus="yes">
+        <source>for %Ln minutes</source>
+        <translation>
+            <numerusform>уже %Ln минуту</numerusform>
+            <numerusform>уже %Ln минуты</numerusform>
+            <numerusform>уже %Ln минут</numerusform>
+        </translation>
+    </message>
+    <message id="alert.over_last_minutes" numerus="yes">
+        <source>over the last %Ln minutes</source>
+        <translation>
+            <numerusform>за последнюю %Ln минуту</numerusform>
+            <numerusform>за последние %Ln минуты</numerusform>
+            <numerusform>за последние %Ln минут</numerusform>
+        </translation>
+    </message>
+    <message id="alert.active_several" numerus="yes">
+        <source>%1 and %Ln more</source>
+        <translation>
+            <numerusform>%1 и ещё %Ln</numerusform>
+            <numerusform>%1 и ещё %Ln</numerusform>
+            <numerusform>%1 и ещё %Ln</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace ferrow {
@@ -14,6 +15,14 @@ const std::array<std::pair<Appearance, QStringView>, 3> kAppearances{{
     {Appearance::system, u"system"},
     {Appearance::light, u"light"},
     {Appearance::dark, u"dark"},
+}};
+
+const std::array<std::pair<const QString *, bool AlertSettings::*>, 5> kAlertSwitches{{
+    {&PreferenceKey::alertChargerCannotKeepUp, &AlertSettings::chargerCannotKeepUp},
+    {&PreferenceKey::alertChargingSlowly, &AlertSettings::chargingSlowly},
+    {&PreferenceKey::alertBatteryHot, &AlertSettings::batteryHot},
+    {&PreferenceKey::alertCellsOutOfBalance, &AlertSettings::cellsOutOfBalance},
+    {&PreferenceKey::alertChargeLevelReached, &AlertSettings::chargeLevelReached},
 }};
 
 void readBool(const QSettings &settings, const QString &key, bool &value)
@@ -28,6 +37,35 @@ void readBool(const QSettings &settings, const QString &key, bool &value)
         value = true;
     else if (text == u"false" || text == u"0")
         value = false;
+}
+
+void readNumber(const QSettings &settings, const QString &key, SettingRange range, double &value)
+{
+    bool ok = false;
+    const double stored = settings.value(key).toString().trimmed().toDouble(&ok);
+    if (ok && range.contains(stored))
+        value = stored;
+}
+
+void readAlerts(const QSettings &settings, AlertSettings &alerts)
+{
+    for (const auto &[key, member] : kAlertSwitches)
+        readBool(settings, *key, alerts.*member);
+    readNumber(settings, PreferenceKey::alertHotWhileChargingCelsius, kBatteryHotRangeC, alerts.hotWhileChargingC);
+    readNumber(settings, PreferenceKey::alertHotCelsius, kBatteryHotRangeC, alerts.hotC);
+    auto level = static_cast<double>(alerts.chargeLevelPercent);
+    readNumber(settings, PreferenceKey::alertChargeLevelPercent, kChargeLevelRangePercent, level);
+    if (level == std::floor(level))
+        alerts.chargeLevelPercent = static_cast<std::int64_t>(level);
+}
+
+void writeAlerts(QSettings &settings, const AlertSettings &alerts)
+{
+    for (const auto &[key, member] : kAlertSwitches)
+        settings.setValue(*key, alerts.*member);
+    settings.setValue(PreferenceKey::alertHotWhileChargingCelsius, alerts.hotWhileChargingC);
+    settings.setValue(PreferenceKey::alertHotCelsius, alerts.hotC);
+    settings.setValue(PreferenceKey::alertChargeLevelPercent, static_cast<qlonglong>(alerts.chargeLevelPercent));
 }
 
 } // namespace
@@ -46,6 +84,7 @@ Preferences readPreferences(const QSettings &settings)
     readBool(settings, PreferenceKey::reduceMotion, preferences.reduceMotion);
     readBool(settings, PreferenceKey::increaseContrast, preferences.increaseContrast);
     readBool(settings, PreferenceKey::keepHistory, preferences.keepHistory);
+    readAlerts(settings, preferences.alerts);
     const QString appearance = settings.value(PreferenceKey::appearance).toString().trimmed().toLower();
     for (const auto &[value, name] : kAppearances) {
         if (appearance == name)
@@ -60,6 +99,7 @@ bool writePreferences(QSettings &settings, const Preferences &preferences)
     settings.setValue(PreferenceKey::reduceMotion, preferences.reduceMotion);
     settings.setValue(PreferenceKey::increaseContrast, preferences.increaseContrast);
     settings.setValue(PreferenceKey::keepHistory, preferences.keepHistory);
+    writeAlerts(settings, preferences.alerts);
     for (const auto &[value, name] : kAppearances) {
         if (value == preferences.appearance)
             settings.setValue(PreferenceKey::appearance, name.toString());

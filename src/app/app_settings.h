@@ -1,5 +1,7 @@
 #pragma once
 
+#include "alerts/alert_settings.h"
+
 #include <QSettings>
 #include <QString>
 
@@ -14,6 +16,7 @@ struct Preferences {
     bool increaseContrast = false; // likewise
     Appearance appearance = Appearance::system;
     bool keepHistory = true; // the energy history database
+    AlertSettings alerts{};
 
     bool operator==(const Preferences &) const = default;
 };
@@ -25,6 +28,14 @@ inline const QString reduceMotion = QStringLiteral("reduceMotion");
 inline const QString increaseContrast = QStringLiteral("increaseContrast");
 inline const QString appearance = QStringLiteral("appearance"); // "system", "light" or "dark"
 inline const QString keepHistory = QStringLiteral("keepHistory");
+inline const QString alertChargerCannotKeepUp = QStringLiteral("alertChargerCannotKeepUp");
+inline const QString alertChargingSlowly = QStringLiteral("alertChargingSlowly");
+inline const QString alertBatteryHot = QStringLiteral("alertBatteryHot");
+inline const QString alertCellsOutOfBalance = QStringLiteral("alertCellsOutOfBalance");
+inline const QString alertChargeLevelReached = QStringLiteral("alertChargeLevelReached");
+inline const QString alertHotWhileChargingCelsius = QStringLiteral("alertHotWhileChargingCelsius");
+inline const QString alertHotCelsius = QStringLiteral("alertHotCelsius");
+inline const QString alertChargeLevelPercent = QStringLiteral("alertChargeLevelPercent"); // a whole number
 } // namespace PreferenceKey
 
 // Values someone else wrote into the file are read defensively: anything that is not clearly of

@@ -24,6 +24,21 @@ QString localizedFormat(const char *key, std::initializer_list<std::int64_t> arg
     return text;
 }
 
+namespace {
+
+QString withTexts(QString text, std::initializer_list<QString> arguments)
+{
+    for (const QString &argument : arguments) {
+        // A missing text is the bare key: leave it as it is rather than provoke arg()'s warning.
+        if (!text.contains(u'%'))
+            break;
+        text = text.arg(argument);
+    }
+    return text;
+}
+
+} // namespace
+
 QString localizedCount(const char *key, std::int64_t count)
 {
     // The text table counts in int; no count shown here comes near its limit.
@@ -32,13 +47,12 @@ QString localizedCount(const char *key, std::int64_t count)
 
 QString localizedFormatText(const char *key, std::initializer_list<QString> arguments)
 {
-    QString text = qtTrId(key);
-    for (const QString &argument : arguments) {
-        if (!text.contains(u'%'))
-            break;
-        text = text.arg(argument);
-    }
-    return text;
+    return withTexts(qtTrId(key), arguments);
+}
+
+QString localizedCountText(const char *key, std::int64_t count, std::initializer_list<QString> arguments)
+{
+    return withTexts(localizedCount(key, count), arguments);
 }
 
 } // namespace ferrow

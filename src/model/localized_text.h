@@ -19,6 +19,9 @@ QString localizedCount(const char *key, std::int64_t count);
 // The key's text with its %1, %2 ... placeholders filled by texts.
 QString localizedFormatText(const char *key, std::initializer_list<QString> arguments);
 
+// A count in the key's plural form, its %1, %2 ... placeholders then filled by texts.
+QString localizedCountText(const char *key, std::int64_t count, std::initializer_list<QString> arguments);
+
 // The one absent-value text of every view.
 inline constexpr char16_t kAbsentText[] = u"\u2014";
 

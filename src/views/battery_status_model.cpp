@@ -25,6 +25,13 @@ QString batteryHealthText(std::optional<std::int64_t> percent, std::optional<Bat
     return text.arg(static_cast<qlonglong>(*percent)).arg(localizedName(*condition));
 }
 
+std::array<BatteryCardFigure, 3> batteryCardFigures(const PowerSnapshot &s)
+{
+    return {{{"battery.estimated_full", s.timeToFullText(), false},
+             {"battery.health", batteryHealthText(s), true},
+             {"battery.temperature", batteryTemperatureText(s.batteryTemperatureC), false}}};
+}
+
 QString batteryTemperatureText(std::optional<double> celsius)
 {
     return formatFigure(celsius, "%.1f \u00B0C");

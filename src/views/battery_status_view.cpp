@@ -83,10 +83,9 @@ std::vector<AccessibleItem> BatteryStatusView::accessibleParts() const
     std::vector<AccessibleItem> parts = {
         {QAccessible::Heading, localizedText("battery.status"), {}},
         {QAccessible::StaticText, spokenReading(localizedText("battery.pack_charge"), QStringLiteral("%1%").arg(s.batteryPercent)), {}},
-        {QAccessible::StaticText, spokenReading(localizedText("battery.estimated_full"), s.timeToFullText()), {}},
-        {QAccessible::StaticText, spokenReading(localizedText("battery.health"), batteryHealthText(s)), {}},
-        {QAccessible::StaticText, spokenReading(localizedText("battery.temperature"), batteryTemperatureText(s.batteryTemperatureC)), {}},
     };
+    for (const BatteryCardFigure &figure : batteryCardFigures(s))
+        parts.push_back({QAccessible::StaticText, spokenReading(localizedText(figure.labelKey), figure.value), {}});
     if (!m_sessionText.isEmpty())
         parts.push_back({QAccessible::StaticText, m_sessionText, {}});
     return parts;
@@ -94,9 +93,7 @@ std::vector<AccessibleItem> BatteryStatusView::accessibleParts() const
 
 bool BatteryStatusView::paintsDifferently(const PowerSnapshot &shown, const PowerSnapshot &next) const
 {
-    const auto figures = [](const PowerSnapshot &s) {
-        return std::tuple(s.hasBattery, s.batteryPercent, s.timeToFullText(), batteryHealthText(s), batteryTemperatureText(s.batteryTemperatureC));
-    };
+    const auto figures = [](const PowerSnapshot &s) { return std::tuple(s.hasBattery, s.batteryPercent, batteryCardFigures(s)); };
     return figures(shown) != figures(next);
 }
 
@@ -135,18 +132,10 @@ void BatteryStatusView::paintEvent(QPaintEvent *)
 
     const double metricTop = content.top() + 34 - (session ? kFiguresRaisedBy : 0);
     const double metricWidth = (content.width() - 16) / 3;
-    const struct {
-        const char *label;
-        QString value;
-        QColor color;
-    } metrics[] = {
-        {"battery.estimated_full", s.timeToFullText(), palette.primaryText()},
-        {"battery.health", batteryHealthText(s), palette.positive()},
-        {"battery.temperature", batteryTemperatureText(s.batteryTemperatureC), palette.primaryText()},
-    };
-    for (int i = 0; i < 3; ++i) {
-        paintCompactMetric(painter, QRectF(content.left() + i * (metricWidth + 8), metricTop, metricWidth, 24),
-                           localizedText(metrics[i].label), metrics[i].value, metrics[i].color, palette);
+    int column = 0;
+    for (const BatteryCardFigure &figure : batteryCardFigures(s)) {
+        paintCompactMetric(painter, QRectF(content.left() + column++ * (metricWidth + 8), metricTop, metricWidth, 24), localizedText(figure.labelKey),
+                           figure.value, figure.positive ? palette.positive() : palette.primaryText(), palette);
     }
     if (!m_sessionText.isEmpty()) {
         painter.setPen(palette.secondaryText());

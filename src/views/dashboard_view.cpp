@@ -171,6 +171,8 @@ void DashboardView::setReduceMotion(bool reduceMotion)
 
 void DashboardView::focusFirstControl()
 {
+    // The popover is opened to be used at once, by keyboard as much as by pointer: its focus shows.
+    window()->setAttribute(Qt::WA_KeyboardFocusChange);
     m_details->setFocus(Qt::TabFocusReason);
 }
 

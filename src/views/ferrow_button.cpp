@@ -36,7 +36,7 @@ void FerrowButton::focusOutEvent(QFocusEvent *event)
 
 void FerrowButton::paintFocusRing(QPainter &painter, const QRectF &shape, double cornerRadius, const FerrowPalette &palette, const QColor &ground) const
 {
-    if (hasFocus())
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange))
         ferrow::paintFocusRing(painter, shape, cornerRadius, palette, ground);
 }
 

@@ -16,7 +16,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
-    // Call last in paintEvent: the ring goes over the content, inside shape.
+    // Call last in paintEvent: the ring goes over the content, inside shape, once the keyboard has
+    // moved the focus in this window.
     void paintFocusRing(QPainter &painter, const QRectF &shape, double cornerRadius, const FerrowPalette &palette, const QColor &ground) const;
 };
 

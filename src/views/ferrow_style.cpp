@@ -95,7 +95,10 @@ void FerrowStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
         return;
     }
     if (element == PE_FrameFocusRect) {
-        paintFocusRing(*painter, QRectF(option->rect), 4, paletteFor(*option), option->palette.color(QPalette::Window));
+        // As the platforms do: the ring shows once the keyboard moves the focus, not after a click
+        // or when a window opens.
+        if (option->state & State_KeyboardFocusChange)
+            paintFocusRing(*painter, QRectF(option->rect), 4, paletteFor(*option), option->palette.color(QPalette::Window));
         return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);

@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+Q_DECLARE_METATYPE(ferrow::AlertSettings)
+
 using namespace ferrow;
 
 class AppServicesTest : public QObject {
@@ -178,10 +180,42 @@ private slots:
 
         // What one program writes, the other reads back as it was.
         QSettings writer(file, QSettings::IniFormat);
-        const Preferences chosen{!read, true, true, Appearance::dark};
+        Preferences chosen{!read, true, true, Appearance::dark};
+        chosen.alerts = AlertSettings{false, false, false, false, true, 40.5, 55.0, 90};
         QVERIFY(writePreferences(writer, chosen));
         QCOMPARE(readPreferences(writer), chosen);
         QCOMPARE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions()); // the user's alone
+    }
+
+    void alertSettingsAreReadDefensively_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<AlertSettings>("read");
+        const auto with = [](auto member, auto value) {
+            AlertSettings settings;
+            settings.*member = value;
+            return settings;
+        };
+        QTest::newRow("limit as text") << PreferenceKey::alertHotCelsius << QVariant(QStringLiteral(" 55 ")) << with(&AlertSettings::hotC, 55.0);
+        QTest::newRow("limit out of range") << PreferenceKey::alertHotCelsius << QVariant(120) << AlertSettings{};
+        QTest::newRow("limit not a number") << PreferenceKey::alertHotWhileChargingCelsius << QVariant(QStringLiteral("nan")) << AlertSettings{};
+        QTest::newRow("level") << PreferenceKey::alertChargeLevelPercent << QVariant(90) << with(&AlertSettings::chargeLevelPercent, std::int64_t{90});
+        QTest::newRow("level in between") << PreferenceKey::alertChargeLevelPercent << QVariant(85.5) << AlertSettings{};
+        QTest::newRow("switched on") << PreferenceKey::alertChargeLevelReached << QVariant(QStringLiteral("true"))
+                                     << with(&AlertSettings::chargeLevelReached, true);
+    }
+
+    void alertSettingsAreReadDefensively()
+    {
+        QFETCH(QString, key);
+        QFETCH(QVariant, stored);
+        QFETCH(AlertSettings, read);
+        QTemporaryDir folder;
+        QSettings settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+        settings.setValue(key, stored);
+        settings.sync();
+        QCOMPARE(readPreferences(QSettings(settings.fileName(), QSettings::IniFormat)).alerts, read);
     }
 };
 

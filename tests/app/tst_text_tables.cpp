@@ -112,7 +112,7 @@ private slots:
         const QHash<QString, Message> english = readTable(kTables + QStringLiteral("ferrow_en.ts"));
         QVERIFY(!english.isEmpty());
         static const QRegularExpression lookup(
-            QStringLiteral("\\b(?:localizedText|localizedFormat|localizedFormatText|localizedCount|qtTrId)\\(\\s*\"([^\"]+)\""));
+            QStringLiteral("\\b(?:localizedText|localizedFormat|localizedFormatText|localizedCount|localizedCountText|qtTrId)\\(\\s*\"([^\"]+)\""));
         int keys = 0;
         QDirIterator sources(QStringLiteral(FERROW_SOURCE_DIR "/src"), {QStringLiteral("*.cpp"), QStringLiteral("*.mm")}, QDir::Files,
                              QDirIterator::Subdirectories);
