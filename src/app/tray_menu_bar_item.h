@@ -17,6 +17,7 @@ public:
 
     void showReading(const MenuBarReading &reading) override;
     QRect geometry() const override { return m_tray.geometry(); }
+    void showMessage(const QString &title, const QString &body) override { m_tray.showMessage(title, body); }
 
 private:
     QMenu m_menu;

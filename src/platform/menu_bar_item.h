@@ -33,6 +33,8 @@ public:
     virtual void showReading(const MenuBarReading &reading) = 0;
     // Where the item is on screen, in Qt's coordinates; empty when the platform does not say.
     virtual QRect geometry() const = 0;
+    // A message from the item, where the system has no notification centre of its own.
+    virtual void showMessage(const QString &title, const QString &body) = 0;
 
 signals:
     void activated();

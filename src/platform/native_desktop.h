@@ -3,6 +3,7 @@
 #include "monitor/sleep_wake_notifier.h"
 #include "platform/login_item.h"
 #include "platform/menu_bar_item.h"
+#include "platform/notifier.h"
 
 #include <QString>
 
@@ -21,6 +22,9 @@ namespace ferrow {
 std::unique_ptr<MenuBarItem> createNativeMenuBarItem(const MenuBarSymbolPainter &paintSymbol);
 std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier();
 std::unique_ptr<LoginItem> createLoginItem();
+// The system's notification centre; nothing where none runs (the menu-bar item's message is the
+// way then).
+std::unique_ptr<Notifier> createNotifier();
 
 // The short version and the build number the installed application declares, where it declares
 // them (a Mac bundle's Info.plist); else the build's own version and no build number.

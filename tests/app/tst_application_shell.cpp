@@ -44,6 +44,7 @@ class FakeMenuBarItem final : public MenuBarItem {
 public:
     void showReading(const MenuBarReading &) override {}
     QRect geometry() const override { return {}; }
+    void showMessage(const QString &, const QString &) override {}
 };
 
 std::unique_ptr<ApplicationShell> makeShell(bool loginRefuses, LoginItemState loginState = LoginItemState::disabled,

@@ -32,6 +32,7 @@ private slots:
     void desktopServicesAreAbsent()
     {
         QVERIFY(!createNativeMenuBarItem({}));
+        QVERIFY(!createNotifier());
         QVERIFY(createSleepWakeNotifier());
         const std::unique_ptr<LoginItem> login = createLoginItem();
         QVERIFY(!login->setEnabled(true));

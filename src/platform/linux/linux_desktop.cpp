@@ -1,5 +1,6 @@
 #include "platform/native_desktop.h"
 
+#include "platform/linux/freedesktop_notifier.h"
 #include "platform/linux/logind_sleep_notifier.h"
 #include "platform/linux/status_notifier_item.h"
 #include "platform/linux/xdg_autostart_login_item.h"
@@ -34,6 +35,14 @@ std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
 std::unique_ptr<LoginItem> createLoginItem()
 {
     return std::make_unique<XdgAutostartLoginItem>();
+}
+
+std::unique_ptr<Notifier> createNotifier()
+{
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!hasNotificationService(bus))
+        return nullptr;
+    return std::make_unique<FreedesktopNotifier>(bus);
 }
 
 namespace {

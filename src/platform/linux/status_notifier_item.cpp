@@ -1,6 +1,7 @@
 #include "platform/linux/status_notifier_item.h"
 
 #include "platform/linux/dbus_menu.h"
+#include "platform/linux/freedesktop_notifier.h"
 #include "platform/menu_bar_menu.h"
 
 #include <QCoreApplication>
@@ -262,6 +263,14 @@ void StatusNotifierItem::showReading(const MenuBarReading &reading)
 QRect StatusNotifierItem::geometry() const
 {
     return m_clickPoint ? QRect(*m_clickPoint, QSize(1, 1)) : QRect();
+}
+
+void StatusNotifierItem::showMessage(const QString &title, const QString &body)
+{
+    if (!m_messages && hasNotificationService(m_bus))
+        m_messages = std::make_unique<FreedesktopNotifier>(m_bus);
+    if (m_messages)
+        m_messages->showMessage(title, body);
 }
 
 void StatusNotifierItem::registerWithWatcher()

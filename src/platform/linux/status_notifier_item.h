@@ -6,10 +6,13 @@
 #include <QMenu>
 #include <QPoint>
 
+#include <memory>
+
 class QDBusServiceWatcher;
 
 namespace ferrow {
 
+class FreedesktopNotifier;
 class StatusNotifierItemAdaptor;
 
 // The menu-bar item as a StatusNotifierItem on the session bus: a symbolic icon that the panel
@@ -26,6 +29,8 @@ public:
     void showReading(const MenuBarReading &reading) override;
     // Where the panel was last clicked: it says no more of where the item is.
     QRect geometry() const override;
+    // The protocol has no messages of its own: through the notification service, where one has come.
+    void showMessage(const QString &title, const QString &body) override;
 
 private:
     friend class StatusNotifierItemAdaptor;
@@ -40,6 +45,7 @@ private:
     StatusNotifierItemAdaptor *m_adaptor; // owned by this object, as Qt's adaptors are
     QDBusServiceWatcher *m_watcherWatch;
     std::optional<QPoint> m_clickPoint;
+    std::unique_ptr<FreedesktopNotifier> m_messages; // made when the first message finds a service
 };
 
 // Whether a panel shows status notifier items here now: a watcher on the bus with a host.

@@ -1,6 +1,7 @@
 #include "platform/native_desktop.h"
 
 #include "platform/macos/mac_status_item.h"
+#include "platform/macos/user_notification_notifier.h"
 #include "platform/macos/workspace_sleep_notifier.h"
 
 #include <QWidget>
@@ -101,6 +102,14 @@ std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
 std::unique_ptr<LoginItem> createLoginItem()
 {
     return std::make_unique<MainAppLoginItem>();
+}
+
+std::unique_ptr<Notifier> createNotifier()
+{
+    // The centre serves application bundles only, and throws for a bare program (a build folder's).
+    if (!NSBundle.mainBundle.bundleIdentifier)
+        return nullptr;
+    return std::make_unique<UserNotificationNotifier>();
 }
 
 DeclaredVersions declaredVersions()

@@ -1,7 +1,7 @@
 #include "platform/native_desktop.h"
 
-// A desktop this program has no backend for: the toolkit's tray icon where there is a tray, no
-// sleep or wake signals, and a login item that is never on.
+// A desktop this program has no backend for: the toolkit's tray icon where there is a tray (and
+// its messages for alerts), no sleep or wake signals, and a login item that is never on.
 
 namespace ferrow {
 namespace {
@@ -27,6 +27,11 @@ std::unique_ptr<SleepWakeNotifier> createSleepWakeNotifier()
 std::unique_ptr<LoginItem> createLoginItem()
 {
     return std::make_unique<NoLoginItem>();
+}
+
+std::unique_ptr<Notifier> createNotifier()
+{
+    return nullptr;
 }
 
 std::optional<bool> systemIncreasesContrast()
