@@ -1,7 +1,6 @@
 #include "platform/native_desktop.h"
 
 #include "platform/macos/mac_status_item.h"
-#include "platform/macos/user_notification_notifier.h"
 #include "platform/macos/workspace_sleep_notifier.h"
 
 #include <QWidget>
@@ -106,10 +105,8 @@ std::unique_ptr<LoginItem> createLoginItem()
 
 std::unique_ptr<Notifier> createNotifier()
 {
-    // The centre serves application bundles only, and throws for a bare program (a build folder's).
-    if (!NSBundle.mainBundle.bundleIdentifier)
-        return nullptr;
-    return std::make_unique<UserNotificationNotifier>();
+    // Not yet the system's notification centre (UserNotifications): alerts show in the windows.
+    return nullptr;
 }
 
 DeclaredVersions declaredVersions()
