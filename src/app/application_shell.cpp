@@ -1,5 +1,6 @@
 #include "app/application_shell.h"
 
+#include "alerts/alert_text.h"
 #include "app/app_settings.h"
 #include "app/menu_bar_label.h"
 #include "app/popover_placement.h"
@@ -52,7 +53,8 @@ bool reducesMotion(const Preferences &preferences)
 } // namespace
 
 ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepWakeNotifier> sleepWake,
-                                   std::unique_ptr<LoginItem> loginItem, std::unique_ptr<MenuBarItem> menuBarItem, QObject *parent)
+                                   std::unique_ptr<LoginItem> loginItem, std::unique_ptr<MenuBarItem> menuBarItem,
+                                   std::unique_ptr<Notifier> notifier, QObject *parent)
     : QObject(parent)
     , m_readsSimulation(machine.isSimulated)
     , m_chipPowerNeedsPermission(machine.chipPowerNeedsPermission)
@@ -60,7 +62,10 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     , m_loginItem(std::move(loginItem))
     , m_monitor(std::make_unique<PowerMonitor>(std::move(machine.reader), m_sleepWake.get()))
     , m_menuBarItem(std::move(menuBarItem))
+    , m_notifier(std::move(notifier))
+    , m_alertDelivery(std::make_unique<AlertDelivery>(m_notifier.get(), m_menuBarItem.get()))
 {
+    m_uptime.start();
 
     m_window = std::make_unique<QWidget>(nullptr, m_menuBarItem ? Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint : Qt::Window);
     m_window->setObjectName(QStringLiteral("dashboardWindow"));
@@ -92,6 +97,7 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     m_dashboard->setSubtitle(localizedText(machine.subtitleKey));
     m_dashboard->setVersion(applicationVersionText());
     const Preferences preferences = readPreferences(m_settings);
+    m_alertRules.setSettings(preferences.alerts);
     m_dashboard->setShowPowerInMenuBar(preferences.showPowerInMenuBar);
     showLoginItemState();
     m_dashboard->setReduceMotion(reducesMotion(preferences));
@@ -111,8 +117,10 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     startHistory(preferences.keepHistory);
     connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, [this] { m_history->record(m_monitor->snapshot()); });
     connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, &ApplicationShell::showSnapshot);
-    if (m_sleepWake)
+    if (m_sleepWake) {
         connect(m_sleepWake.get(), &SleepWakeNotifier::willSleep, this, &ApplicationShell::persist);
+        connect(m_sleepWake.get(), &SleepWakeNotifier::didWake, this, [this] { m_alertRules.noteWake(m_uptime.elapsed() / 1000.0); });
+    }
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
         persist();
         m_history->waitForWrites();
@@ -224,6 +232,7 @@ MainWindowView *ApplicationShell::openMainWindow()
             m_mainWindow->setPowerNotice(localizedText("power.chip_permission"));
         m_mainWindow->setReduceMotion(reducesMotion(readPreferences(m_settings)));
         m_mainWindow->setSnapshot(m_monitor->snapshot());
+        m_mainWindow->setAlertLine(m_alertLine);
         m_mainWindow->setHistory(m_monitor->powerHistory());
         m_mainWindow->installEventFilter(this);
         connect(m_mainWindow.get(), &MainWindowView::refreshRequested, m_monitor.get(), &PowerMonitor::refresh);
@@ -269,8 +278,20 @@ void ApplicationShell::applyAppearance()
     m_window->setAutoFillBackground(!m_hasPopoverMaterial && !m_window->testAttribute(Qt::WA_TranslucentBackground));
 }
 
+void ApplicationShell::followAlerts()
+{
+    for (const Alert &alert : m_alertRules.add(m_monitor->snapshot(), m_uptime.elapsed() / 1000.0))
+        m_alertDelivery->deliver(alert);
+    m_alertLine = activeAlertText(m_alertRules.activeKinds());
+    m_dashboard->setAlertLine(m_alertLine);
+    if (m_mainWindow)
+        m_mainWindow->setAlertLine(m_alertLine);
+}
+
 void ApplicationShell::showSnapshot()
 {
+    if (m_monitor->hasReading())
+        followAlerts();
     m_dashboard->setSnapshot(m_monitor->snapshot());
     m_dashboard->setCurrentSession(m_history->currentSession(), QDateTime::currentSecsSinceEpoch());
     if (m_mainWindow) {

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "alerts/alert_rules.h"
+#include "app/alert_delivery.h"
 #include "app/app_services.h"
 #include "app/machine_source.h"
 #include "platform/menu_bar_item.h"
+#include "platform/notifier.h"
 #include "views/ferrow_palette.h"
 
 #include <QElapsedTimer>
@@ -28,9 +31,10 @@ class SleepWakeNotifier;
 class ApplicationShell : public QObject {
     Q_OBJECT
 public:
-    // Without a menu-bar item the dashboard is an ordinary window.
+    // Without a menu-bar item the dashboard is an ordinary window; without a notifier, alerts go
+    // to the menu-bar item's message.
     ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepWakeNotifier> sleepWake, std::unique_ptr<LoginItem> loginItem,
-                     std::unique_ptr<MenuBarItem> menuBarItem, QObject *parent = nullptr);
+                     std::unique_ptr<MenuBarItem> menuBarItem, std::unique_ptr<Notifier> notifier = nullptr, QObject *parent = nullptr);
     ~ApplicationShell() override;
 
     void start();
@@ -44,6 +48,8 @@ protected:
 
 private:
     void showSnapshot();
+    // Gives the alerts this reading sets off, and shows the one that holds.
+    void followAlerts();
     void startHistory(bool keep);
     void setKeepHistory(bool keep);
     void requestHistoryOverview();
@@ -57,6 +63,9 @@ private:
     FerrowPalette currentPalette() const;
 
     QSettings m_settings; // read when a value is needed: whatever else changed it is seen
+    QElapsedTimer m_uptime; // monotonic, and still while the machine sleeps: the alerts' clock
+    AlertRules m_alertRules;
+    QString m_alertLine;
     bool m_readsSimulation;
     bool m_chipPowerNeedsPermission;
     std::unique_ptr<SleepWakeNotifier> m_sleepWake;
@@ -67,6 +76,8 @@ private:
     DashboardView *m_dashboard = nullptr;
     std::unique_ptr<MainWindowView> m_mainWindow;
     std::unique_ptr<MenuBarItem> m_menuBarItem; // none: the dashboard is a window
+    std::unique_ptr<Notifier> m_notifier;       // none: alerts go to the menu-bar item's message
+    std::unique_ptr<AlertDelivery> m_alertDelivery;
     // Since the popover last closed because it lost focus: a click on the item is what took
     // the focus, and that click must not open it again.
     QElapsedTimer m_sinceClosedByFocusLoss;

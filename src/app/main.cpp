@@ -91,7 +91,7 @@ int main(int argc, char *argv[])
     if (!machine->isMac)
         nameMachineAComputer(application);
     const std::shared_ptr<const void> onPace = keepTimersOnPace(); // for the life of the process
-    ApplicationShell shell(std::move(*machine), createSleepWakeNotifier(), createLoginItem(), createMenuBarItem());
+    ApplicationShell shell(std::move(*machine), createSleepWakeNotifier(), createLoginItem(), createMenuBarItem(), createNotifier());
     shell.start();
     // A logout or `kill` ends the program through its quit path, which commits the history's
     // minute and the batteries' extremes.

@@ -6,6 +6,7 @@
 //
 // Usage: render_views [FOLDER [MAIN_WINDOW_WIDTH]]
 
+#include "alerts/alert_text.h"
 #include "app/app_services.h"
 #include "app/menu_bar_label.h"
 #include "app/text_table.h"
@@ -388,6 +389,23 @@ int main(int argc, char *argv[])
             }
             ++written;
         }
+    }
+    {
+        // An alert that holds: the charger cannot keep up with the notebook on battery's draw.
+        DashboardView dashboard;
+        dashboard.setFerrowPalette(FerrowPalette{ColorScheme::light});
+        dashboard.setSnapshot(snapshots[1]);
+        dashboard.setAlertLine(activeAlertText({AlertKind::chargerCannotKeepUp}));
+        dashboard.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+        dashboard.setReduceMotion(true);
+        dashboard.setAttribute(Qt::WA_DontShowOnScreen);
+        dashboard.show();
+        const QString path = output + QStringLiteral("/popover-alert-light.png");
+        if (!render(dashboard, 1.0, path)) {
+            err << "render_views: cannot write " << path << Qt::endl;
+            return 1;
+        }
+        ++written;
     }
     if (!renderTrayIcons(output, snapshots)) {
         err << "render_views: cannot write the tray icons to " << output << Qt::endl;
