@@ -754,5 +754,28 @@
             <numerusform>%1 und %Ln weitere</numerusform>
         </translation>
     </message>
+    <message id="alerts.title">
+        <source>Alerts</source>
+        <translation>Warnungen</translation>
+    </message>
+    <message id="alerts.caption" numerus="yes">
+        <source>Each alert is shown once and repeated at most every %Ln minutes while it holds.</source>
+        <translation>
+            <numerusform>Jede Warnung erscheint einmal und wird, solange sie besteht, höchstens jede %Ln Minute wiederholt.</numerusform>
+            <numerusform>Jede Warnung erscheint einmal und wird, solange sie besteht, höchstens alle %Ln Minuten wiederholt.</numerusform>
+        </translation>
+    </message>
+    <message id="alerts.hot_while_charging">
+        <source>While charging, above</source>
+        <translation>Beim Laden über</translation>
+    </message>
+    <message id="alerts.hot_any_time">
+        <source>At any time, above</source>
+        <translation>Jederzeit über</translation>
+    </message>
+    <message id="alerts.notifications_denied">
+        <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
+        <translation>Mitteilungen sind für Ferrow in den Systemeinstellungen ausgeschaltet</translation>
+    </message>
 </context>
 </TS>

@@ -754,5 +754,28 @@
             <numerusform>%1 and %Ln more</numerusform>
         </translation>
     </message>
+    <message id="alerts.title">
+        <source>Alerts</source>
+        <translation>Alerts</translation>
+    </message>
+    <message id="alerts.caption" numerus="yes">
+        <source>Each alert is shown once and repeated at most every %Ln minutes while it holds.</source>
+        <translation>
+            <numerusform>Each alert is shown once and repeated at most every %Ln minute while it holds.</numerusform>
+            <numerusform>Each alert is shown once and repeated at most every %Ln minutes while it holds.</numerusform>
+        </translation>
+    </message>
+    <message id="alerts.hot_while_charging">
+        <source>While charging, above</source>
+        <translation>While charging, above</translation>
+    </message>
+    <message id="alerts.hot_any_time">
+        <source>At any time, above</source>
+        <translation>At any time, above</translation>
+    </message>
+    <message id="alerts.notifications_denied">
+        <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
+        <translation>Notifications are turned off for Ferrow in the system&apos;s settings</translation>
+    </message>
 </context>
 </TS>

@@ -754,5 +754,28 @@
             <numerusform>%1 y %Ln más</numerusform>
         </translation>
     </message>
+    <message id="alerts.title">
+        <source>Alerts</source>
+        <translation>Alertas</translation>
+    </message>
+    <message id="alerts.caption" numerus="yes">
+        <source>Each alert is shown once and repeated at most every %Ln minutes while it holds.</source>
+        <translation>
+            <numerusform>Cada alerta se muestra una vez y, mientras persista, se repite como mucho cada %Ln minuto.</numerusform>
+            <numerusform>Cada alerta se muestra una vez y, mientras persista, se repite como mucho cada %Ln minutos.</numerusform>
+        </translation>
+    </message>
+    <message id="alerts.hot_while_charging">
+        <source>While charging, above</source>
+        <translation>Al cargar, por encima de</translation>
+    </message>
+    <message id="alerts.hot_any_time">
+        <source>At any time, above</source>
+        <translation>En cualquier momento, por encima de</translation>
+    </message>
+    <message id="alerts.notifications_denied">
+        <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
+        <translation>Las notificaciones de Ferrow están desactivadas en los ajustes del sistema</translation>
+    </message>
 </context>
 </TS>

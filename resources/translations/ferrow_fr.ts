@@ -754,5 +754,28 @@
             <numerusform>%1 et %Ln autres</numerusform>
         </translation>
     </message>
+    <message id="alerts.title">
+        <source>Alerts</source>
+        <translation>Alertes</translation>
+    </message>
+    <message id="alerts.caption" numerus="yes">
+        <source>Each alert is shown once and repeated at most every %Ln minutes while it holds.</source>
+        <translation>
+            <numerusform>Chaque alerte s’affiche une fois, puis au plus toutes les %Ln minute tant qu’elle persiste.</numerusform>
+            <numerusform>Chaque alerte s’affiche une fois, puis au plus toutes les %Ln minutes tant qu’elle persiste.</numerusform>
+        </translation>
+    </message>
+    <message id="alerts.hot_while_charging">
+        <source>While charging, above</source>
+        <translation>En charge, au-dessus de</translation>
+    </message>
+    <message id="alerts.hot_any_time">
+        <source>At any time, above</source>
+        <translation>À tout moment, au-dessus de</translation>
+    </message>
+    <message id="alerts.notifications_denied">
+        <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
+        <translation>Les notifications de Ferrow sont désactivées dans les réglages du système</translation>
+    </message>
 </context>
 </TS>

@@ -754,5 +754,28 @@
             <numerusform>%1 e altri %Ln</numerusform>
         </translation>
     </message>
+    <message id="alerts.title">
+        <source>Alerts</source>
+        <translation>Avvisi</translation>
+    </message>
+    <message id="alerts.caption" numerus="yes">
+        <source>Each alert is shown once and repeated at most every %Ln minutes while it holds.</source>
+        <translation>
+            <numerusform>Ogni avviso appare una volta e, finché persiste, si ripete al massimo ogni %Ln minuto.</numerusform>
+            <numerusform>Ogni avviso appare una volta e, finché persiste, si ripete al massimo ogni %Ln minuti.</numerusform>
+        </translation>
+    </message>
+    <message id="alerts.hot_while_charging">
+        <source>While charging, above</source>
+        <translation>In carica, oltre</translation>
+    </message>
+    <message id="alerts.hot_any_time">
+        <source>At any time, above</source>
+        <translation>In qualsiasi momento, oltre</translation>
+    </message>
+    <message id="alerts.notifications_denied">
+        <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
+        <translation>Le notifiche di Ferrow sono disattivate nelle impostazioni di sistema</translation>
+    </message>
 </context>
 </TS>

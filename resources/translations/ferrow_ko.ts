@@ -745,5 +745,27 @@
             <numerusform>%1 외 %Ln건</numerusform>
         </translation>
     </message>
+    <message id="alerts.title">
+        <source>Alerts</source>
+        <translation>알림</translation>
+    </message>
+    <message id="alerts.caption" numerus="yes">
+        <source>Each alert is shown once and repeated at most every %Ln minutes while it holds.</source>
+        <translation>
+            <numerusform>각 알림은 한 번 표시되며, 상태가 계속되면 최소 %Ln분 간격으로 반복됩니다.</numerusform>
+        </translation>
+    </message>
+    <message id="alerts.hot_while_charging">
+        <source>While charging, above</source>
+        <translation>충전 중 기준 온도</translation>
+    </message>
+    <message id="alerts.hot_any_time">
+        <source>At any time, above</source>
+        <translation>평상시 기준 온도</translation>
+    </message>
+    <message id="alerts.notifications_denied">
+        <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
+        <translation>시스템 설정에서 Ferrow의 알림이 꺼져 있습니다</translation>
+    </message>
 </context>
 </TS>

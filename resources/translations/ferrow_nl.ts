@@ -754,5 +754,28 @@
             <numerusform>%1 en nog %Ln</numerusform>
         </translation>
     </message>
+    <message id="alerts.title">
+        <source>Alerts</source>
+        <translation>Waarschuwingen</translation>
+    </message>
+    <message id="alerts.caption" numerus="yes">
+        <source>Each alert is shown once and repeated at most every %Ln minutes while it holds.</source>
+        <translation>
+            <numerusform>Elke waarschuwing verschijnt één keer en wordt, zolang ze aanhoudt, hoogstens elke %Ln minuut herhaald.</numerusform>
+            <numerusform>Elke waarschuwing verschijnt één keer en wordt, zolang ze aanhoudt, hoogstens elke %Ln minuten herhaald.</numerusform>
+        </translation>
+    </message>
+    <message id="alerts.hot_while_charging">
+        <source>While charging, above</source>
+        <translation>Tijdens opladen, boven</translation>
+    </message>
+    <message id="alerts.hot_any_time">
+        <source>At any time, above</source>
+        <translation>Altijd, boven</translation>
+    </message>
+    <message id="alerts.notifications_denied">
+        <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
+        <translation>Meldingen voor Ferrow staan uit in de systeeminstellingen</translation>
+    </message>
 </context>
 </TS>

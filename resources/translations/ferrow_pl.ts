@@ -763,5 +763,29 @@
             <numerusform>%1 i jeszcze %Ln</numerusform>
         </translation>
     </message>
+    <message id="alerts.title">
+        <source>Alerts</source>
+        <translation>Alerty</translation>
+    </message>
+    <message id="alerts.caption" numerus="yes">
+        <source>Each alert is shown once and repeated at most every %Ln minutes while it holds.</source>
+        <translation>
+            <numerusform>Każdy alert pojawia się raz i, dopóki trwa, powtarza się najwyżej co %Ln minutę.</numerusform>
+            <numerusform>Każdy alert pojawia się raz i, dopóki trwa, powtarza się najwyżej co %Ln minuty.</numerusform>
+            <numerusform>Każdy alert pojawia się raz i, dopóki trwa, powtarza się najwyżej co %Ln minut.</numerusform>
+        </translation>
+    </message>
+    <message id="alerts.hot_while_charging">
+        <source>While charging, above</source>
+        <translation>Podczas ładowania, powyżej</translation>
+    </message>
+    <message id="alerts.hot_any_time">
+        <source>At any time, above</source>
+        <translation>Zawsze, powyżej</translation>
+    </message>
+    <message id="alerts.notifications_denied">
+        <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
+        <translation>Powiadomienia Ferrow są wyłączone w ustawieniach systemu</translation>
+    </message>
 </context>
 </TS>

@@ -754,5 +754,28 @@
             <numerusform>%1 e mais %Ln</numerusform>
         </translation>
     </message>
+    <message id="alerts.title">
+        <source>Alerts</source>
+        <translation>Alertas</translation>
+    </message>
+    <message id="alerts.caption" numerus="yes">
+        <source>Each alert is shown once and repeated at most every %Ln minutes while it holds.</source>
+        <translation>
+            <numerusform>Cada alerta aparece uma vez e, enquanto persistir, se repete no máximo a cada %Ln minuto.</numerusform>
+            <numerusform>Cada alerta aparece uma vez e, enquanto persistir, se repete no máximo a cada %Ln minutos.</numerusform>
+        </translation>
+    </message>
+    <message id="alerts.hot_while_charging">
+        <source>While charging, above</source>
+        <translation>Ao carregar, acima de</translation>
+    </message>
+    <message id="alerts.hot_any_time">
+        <source>At any time, above</source>
+        <translation>A qualquer momento, acima de</translation>
+    </message>
+    <message id="alerts.notifications_denied">
+        <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
+        <translation>As notificações do Ferrow estão desativadas nos ajustes do sistema</translation>
+    </message>
 </context>
 </TS>

@@ -763,5 +763,29 @@
             <numerusform>%1 и ещё %Ln</numerusform>
         </translation>
     </message>
+    <message id="alerts.title">
+        <source>Alerts</source>
+        <translation>Оповещения</translation>
+    </message>
+    <message id="alerts.caption" numerus="yes">
+        <source>Each alert is shown once and repeated at most every %Ln minutes while it holds.</source>
+        <translation>
+            <numerusform>Каждое оповещение показывается один раз и, пока условие сохраняется, повторяется не чаще раза в %Ln минуту.</numerusform>
+            <numerusform>Каждое оповещение показывается один раз и, пока условие сохраняется, повторяется не чаще раза в %Ln минуты.</numerusform>
+            <numerusform>Каждое оповещение показывается один раз и, пока условие сохраняется, повторяется не чаще раза в %Ln минут.</numerusform>
+        </translation>
+    </message>
+    <message id="alerts.hot_while_charging">
+        <source>While charging, above</source>
+        <translation>При зарядке, выше</translation>
+    </message>
+    <message id="alerts.hot_any_time">
+        <source>At any time, above</source>
+        <translation>В любое время, выше</translation>
+    </message>
+    <message id="alerts.notifications_denied">
+        <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
+        <translation>Уведомления для Ferrow отключены в системных настройках</translation>
+    </message>
 </context>
 </TS>

@@ -28,6 +28,8 @@
 #include <QTextStream>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace ferrow {
 namespace {
 
@@ -117,6 +119,8 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     startHistory(preferences.keepHistory);
     connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, [this] { m_history->record(m_monitor->snapshot()); });
     connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, &ApplicationShell::showSnapshot);
+    if (m_notifier)
+        connect(m_notifier.get(), &Notifier::permissionChanged, this, &ApplicationShell::showNotificationPermission);
     if (m_sleepWake) {
         connect(m_sleepWake.get(), &SleepWakeNotifier::willSleep, this, &ApplicationShell::persist);
         connect(m_sleepWake.get(), &SleepWakeNotifier::didWake, this, [this] { m_alertRules.noteWake(m_uptime.elapsed() / 1000.0); });
@@ -191,6 +195,26 @@ void ApplicationShell::setKeepHistory(bool keep)
     requestHistoryOverview();
 }
 
+void ApplicationShell::setAlertSettings(const AlertSettings &alerts)
+{
+    Preferences changed = readPreferences(m_settings);
+    const AlertSettings before = changed.alerts;
+    changed.alerts = alerts;
+    writePreferences(m_settings, changed);
+    m_alertRules.setSettings(alerts);
+    const bool switchedOn = std::any_of(kAlertKinds.begin(), kAlertKinds.end(), [&](AlertKind kind) { return alerts.isOn(kind) && !before.isOn(kind); });
+    if (switchedOn && m_notifier && m_notifier->permission() == NotificationPermission::notAsked)
+        m_notifier->requestPermission();
+}
+
+void ApplicationShell::showNotificationPermission()
+{
+    if (!m_mainWindow)
+        return;
+    const bool denied = m_notifier && m_notifier->permission() == NotificationPermission::denied;
+    m_mainWindow->setNotificationNote(denied ? localizedText("alerts.notifications_denied") : QString());
+}
+
 void ApplicationShell::persist()
 {
     m_history->flush();
@@ -238,6 +262,9 @@ MainWindowView *ApplicationShell::openMainWindow()
         connect(m_mainWindow.get(), &MainWindowView::refreshRequested, m_monitor.get(), &PowerMonitor::refresh);
         m_mainWindow->setHistoryEnabled(m_history->keepsHistory());
         connect(m_mainWindow.get(), &MainWindowView::historyEnabledToggled, this, &ApplicationShell::setKeepHistory);
+        m_mainWindow->setAlertSettings(readPreferences(m_settings).alerts);
+        showNotificationPermission();
+        connect(m_mainWindow.get(), &MainWindowView::alertSettingsChanged, this, &ApplicationShell::setAlertSettings);
     }
     requestHistoryOverview();
     if (m_menuBarItem)

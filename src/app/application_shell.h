@@ -53,6 +53,9 @@ private:
     void startHistory(bool keep);
     void setKeepHistory(bool keep);
     void requestHistoryOverview();
+    void setAlertSettings(const AlertSettings &alerts);
+    // A note in the details window while the system keeps notifications from us.
+    void showNotificationPermission();
     // Commits the history's minute and the lifetime extremes: before sleep and quit.
     void persist();
     void updateTrayItem();

@@ -8,6 +8,7 @@
 #include "views/meter_row.h"
 #include "views/history_model.h"
 #include "views/power_history_chart.h"
+#include "views/report/alerts_panel.h"
 #include "views/report/battery_health_panel.h"
 #include "views/report/battery_panel.h"
 #include "views/report/cells_panel.h"
@@ -211,7 +212,9 @@ QWidget *MainWindowView::buildDetail()
     block(MainSection::energy, {m_keepHistory, m_historyCaption, named(m_energy, "energyPanel"), named(m_sessions, "sessionsPanel"),
                                 named(m_batteryHealth, "batteryHealthPanel")});
     m_device = new DevicePanel;
-    block(MainSection::history, {named(m_device, "devicePanel")});
+    m_alerts = new AlertsPanel;
+    connect(m_alerts, &AlertsPanel::settingsChanged, this, &MainWindowView::alertSettingsChanged);
+    block(MainSection::history, {named(m_device, "devicePanel"), named(m_alerts, "alertsPanel")});
 
     // Room after the last section, so that every section can be scrolled to the top.
     m_endSpacer = new QWidget;
@@ -308,6 +311,17 @@ void MainWindowView::setAlertLine(const QString &line)
     m_sidebar->setAlertLine(line);
 }
 
+void MainWindowView::setAlertSettings(const AlertSettings &settings)
+{
+    m_alerts->setSettings(settings);
+}
+
+void MainWindowView::setNotificationNote(const QString &note)
+{
+    m_alerts->setNotificationNote(note);
+    updateEndSpacer();
+}
+
 void MainWindowView::setReduceMotion(bool reduceMotion)
 {
     m_reduceMotion = reduceMotion;
@@ -340,7 +354,7 @@ void MainWindowView::applyPalette()
     m_sidebar->setFerrowPalette(p);
     for (SectionHeading *heading : m_headings)
         heading->setFerrowPalette(p);
-    for (ReportPanel *panel : std::initializer_list<ReportPanel *>{m_distribution, m_chart, m_battery, m_cells, m_energy, m_sessions, m_batteryHealth, m_device})
+    for (ReportPanel *panel : std::initializer_list<ReportPanel *>{m_distribution, m_chart, m_battery, m_cells, m_energy, m_sessions, m_batteryHealth, m_device, m_alerts})
         panel->setFerrowPalette(p);
     m_footer->setFerrowPalette(p);
     m_meters->setFerrowPalette(p);

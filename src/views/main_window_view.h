@@ -1,5 +1,6 @@
 #pragma once
 
+#include "alerts/alert_settings.h"
 #include "history/history_recorder.h"
 #include "model/power_history.h"
 #include "model/power_snapshot.h"
@@ -21,6 +22,7 @@ class QSplitter;
 
 namespace ferrow {
 
+class AlertsPanel;
 class BatteryHealthPanel;
 class BatteryPanel;
 class CellsPanel;
@@ -55,6 +57,10 @@ public:
     void setHistoryEnabled(bool enabled);
     // Stills the sidebar's selection and the logo's hover.
     void setReduceMotion(bool reduceMotion);
+    // Shows the alerts' settings without telling of a change.
+    void setAlertSettings(const AlertSettings &settings);
+    // Why alerts may not reach the user (empty hides it).
+    void setNotificationNote(const QString &note);
 
     MainSection selection() const { return m_selection; }
     void pickSection(MainSection section); // as a click on its sidebar row
@@ -68,6 +74,8 @@ signals:
     void refreshRequested();
     // The user turned the history on or off; the shell confirms turning it off and answers with setHistoryEnabled.
     void historyEnabledToggled(bool enabled);
+    // The user changed which alerts to give, or a threshold.
+    void alertSettingsChanged(const AlertSettings &settings);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -114,6 +122,7 @@ private:
     SessionsPanel *m_sessions = nullptr;
     BatteryHealthPanel *m_batteryHealth = nullptr;
     DevicePanel *m_device = nullptr;
+    AlertsPanel *m_alerts = nullptr;
     ViewFooter *m_footer = nullptr;
     QLabel *m_version = nullptr;
 };

@@ -14,10 +14,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QChartView>
+#include <QCheckBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QSplitter>
 #include <QTest>
 #include <QToolButton>
@@ -26,6 +29,7 @@ using namespace ferrow;
 using namespace std::chrono_literals;
 
 Q_DECLARE_METATYPE(ferrow::PowerSnapshot)
+Q_DECLARE_METATYPE(ferrow::AlertSettings)
 
 namespace {
 
@@ -99,6 +103,12 @@ QStringList misplacedChildren(QAccessibleInterface *element, std::vector<QAccess
         misplaced << misplacedChildren(child, parts);
     }
     return misplaced;
+}
+
+// Every field away from its default: a control the settings did not reach tells its default.
+AlertSettings alertSettingsGiven()
+{
+    return {false, true, false, true, true, 35.5, 62.0, 95};
 }
 
 } // namespace
@@ -354,6 +364,47 @@ private slots:
         QSignalSpy refresh(&window, &MainWindowView::refreshRequested);
         window.findChild<QToolButton *>(QStringLiteral("refresh"))->click();
         QCOMPARE(refresh.size(), 1);
+    }
+
+    // Each control tells of the user's change with that field alone changed from the settings
+    // given by the code, which show without being told back.
+    void alertSettingsFollowTheUser_data()
+    {
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<AlertSettings>("expected");
+        const AlertSettings given = alertSettingsGiven();
+        const auto changed = [&](auto member, auto value) {
+            AlertSettings settings = given;
+            settings.*member = value;
+            return settings;
+        };
+        QTest::newRow("charger") << "alertChargerCannotKeepUp" << changed(&AlertSettings::chargerCannotKeepUp, true);
+        QTest::newRow("slow charge") << "alertChargingSlowly" << changed(&AlertSettings::chargingSlowly, false);
+        QTest::newRow("hot") << "alertBatteryHot" << changed(&AlertSettings::batteryHot, true);
+        QTest::newRow("cells") << "alertCellsOutOfBalance" << changed(&AlertSettings::cellsOutOfBalance, false);
+        QTest::newRow("charge level") << "alertChargeLevelReached" << changed(&AlertSettings::chargeLevelReached, false);
+        QTest::newRow("hot while charging") << "alertHotWhileCharging" << changed(&AlertSettings::hotWhileChargingC, 41.5);
+        QTest::newRow("hot at any time") << "alertHot" << changed(&AlertSettings::hotC, 68.0);
+        QTest::newRow("level") << "alertChargeLevel" << changed(&AlertSettings::chargeLevelPercent, std::int64_t{1});
+    }
+
+    void alertSettingsFollowTheUser()
+    {
+        QFETCH(QString, control);
+        QFETCH(AlertSettings, expected);
+        MainWindowView window;
+        QSignalSpy changes(&window, &MainWindowView::alertSettingsChanged);
+        window.setAlertSettings(alertSettingsGiven());
+        QCOMPARE(changes.size(), 0);
+        const auto *panel = window.findChild<QWidget *>(QStringLiteral("alertsPanel"));
+        if (auto *box = panel->findChild<QCheckBox *>(control))
+            box->click();
+        else if (auto *temperature = panel->findChild<QDoubleSpinBox *>(control))
+            temperature->setValue(control == u"alertHot" ? expected.hotC : expected.hotWhileChargingC);
+        else
+            panel->findChild<QSpinBox *>(control)->setValue(static_cast<int>(expected.chargeLevelPercent));
+        QCOMPARE(changes.size(), 1);
+        QCOMPARE(changes.constFirst().constFirst().value<AlertSettings>(), expected);
     }
 
     void chartDrawsRunsAndNamedAxes()
