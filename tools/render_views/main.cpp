@@ -35,6 +35,7 @@
 #include <QToolButton>
 #include <QTimer>
 
+#include <algorithm>
 #include <vector>
 
 using namespace ferrow;
@@ -180,6 +181,10 @@ int renderMainWindow(const QString &output, const QString &name, const Simulated
     waitFor(50);
     int written = 0;
     for (const MainSection section : kMainSections) {
+        if (section == MainSection::history) { // the last section whole, its alerts panel included
+            window.resize(window.width(), std::max(window.height(), window.sectionBlock(section)->sizeHint().height() + 170));
+            waitFor(50);
+        }
         window.pickSection(section);
         waitFor(420); // the scroll animation
         const QString path = QStringLiteral("%1/main-%2-%3-%4.png")

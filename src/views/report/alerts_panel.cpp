@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QSpinBox>
 
+#include <algorithm>
 #include <cmath>
 
 namespace ferrow {
@@ -59,7 +60,7 @@ QWidget *row(int indent, std::initializer_list<QWidget *> pieces)
 } // namespace
 
 AlertsPanel::AlertsPanel(QWidget *parent)
-    : ReportPanel("alerts.title", Glyph::gauge, FixedColor::orange, parent)
+    : ReportPanel("alerts.title", Glyph::gauge, std::nullopt, parent)
     , m_caption(fontLabel(uiFont(12)))
     , m_hotWhileCharging(temperatureBox("alertHotWhileCharging"))
     , m_hot(temperatureBox("alertHot"))
@@ -68,16 +69,17 @@ AlertsPanel::AlertsPanel(QWidget *parent)
 {
     m_caption->setText(localizedCount("alerts.caption", std::llround(AlertGate::kRepeatS / 60)));
     m_caption->setWordWrap(true);
-    m_caption->setContentsMargins(0, 0, 0, 6);
     addContent(m_caption);
+    m_caption->setContentsMargins(m_caption->contentsMargins() + QMargins(0, 0, 0, 6));
 
     m_chargeLevel->setObjectName(QStringLiteral("alertChargeLevel"));
     m_chargeLevel->setRange(static_cast<int>(kChargeLevelRangePercent.lowest), static_cast<int>(kChargeLevelRangePercent.highest));
     m_chargeLevel->setSuffix(QStringLiteral("%"));
     m_chargeLevel->setKeyboardTracking(false);
 
-    const auto threshold = [this](const char *key, QDoubleSpinBox *box) {
-        auto *label = new QLabel(localizedText(key));
+    std::vector<QLabel *> thresholdLabels;
+    const auto threshold = [&](const char *key, QDoubleSpinBox *box) {
+        auto *label = thresholdLabels.emplace_back(new QLabel(localizedText(key)));
         label->setBuddy(box);
         box->setAccessibleName(label->text());
         addContent(row(kThresholdIndent, {label, box}));
@@ -98,15 +100,21 @@ AlertsPanel::AlertsPanel(QWidget *parent)
             threshold("alerts.hot_any_time", m_hot);
         }
     }
+    // The two figures line up, whatever the language's words before them.
+    int labelW = 0;
+    for (const QLabel *label : thresholdLabels)
+        labelW = std::max(labelW, label->sizeHint().width());
+    for (QLabel *label : thresholdLabels)
+        label->setMinimumWidth(labelW);
     connect(m_hotWhileCharging, &QDoubleSpinBox::valueChanged, this, &AlertsPanel::tellChange);
     connect(m_hot, &QDoubleSpinBox::valueChanged, this, &AlertsPanel::tellChange);
     connect(m_chargeLevel, &QSpinBox::valueChanged, this, &AlertsPanel::tellChange);
 
     m_note->setObjectName(QStringLiteral("alertNotificationNote"));
     m_note->setWordWrap(true);
-    m_note->setContentsMargins(0, 6, 0, 0);
     m_note->hide();
     addContent(m_note);
+    m_note->setContentsMargins(m_note->contentsMargins() + QMargins(0, 6, 0, 0));
     setSettings(AlertSettings{});
 }
 
@@ -148,7 +156,7 @@ void AlertsPanel::setFerrowPalette(const FerrowPalette &palette)
     QPalette controls = this->palette();
     controls.setColor(QPalette::Window, palette.reportPanelBackground());
     controls.setColor(QPalette::WindowText, palette.primaryText());
-    controls.setColor(QPalette::Text, palette.secondaryText());
+    controls.setColor(QPalette::Text, palette.primaryText());
     controls.setColor(QPalette::Base, palette.reportTileGround());
     controls.setColor(QPalette::Button, palette.reportPanelBackground());
     controls.setColor(QPalette::ButtonText, palette.primaryText());
