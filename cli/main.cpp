@@ -180,5 +180,5 @@ int main(int argc, char *argv[])
     }
     if (!json)
         out << "Reading the " << machine->description << " once a second; Ctrl+C to stop." << Qt::endl;
-    return runTerminalView(reader, json, out);
+    return runTerminalView(reader, json, out, readPreferences(QSettings()).alerts);
 }

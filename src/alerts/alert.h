@@ -17,4 +17,7 @@ struct Alert {
     bool operator==(const Alert &) const = default;
 };
 
+// The kind's fixed name for scripts, in any language: "charger_cannot_keep_up", ...
+QString alertKindName(AlertKind kind);
+
 } // namespace ferrow

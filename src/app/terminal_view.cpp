@@ -1,11 +1,13 @@
 #include "app/terminal_view.h"
 
+#include "app/alert_lines.h"
 #include "export/snapshot_json.h"
 #include "model/value_text.h"
 #include "platform/native_machine.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QTextStream>
 #include <QTimer>
@@ -25,14 +27,25 @@ QString readingSummaryLine(const PowerSnapshot &s)
     return line;
 }
 
-int runTerminalView(SnapshotReader &reader, bool json, QTextStream &out)
+int runTerminalView(SnapshotReader &reader, bool json, QTextStream &out, const std::optional<AlertSettings> &alerts)
 {
+    std::optional<AlertLines> alertLines;
+    if (alerts)
+        alertLines.emplace(*alerts, json);
+    // Monotonic and still while the machine sleeps, like the application's own alert clock. A
+    // recording is timed by it too: the reader does not tell its frames' times.
+    QElapsedTimer uptime;
+    uptime.start();
     const auto print = [&] {
         const PowerSnapshot snapshot = reader.read();
         if (json)
             out << QJsonDocument(snapshotToJson(snapshot)).toJson(QJsonDocument::Compact) << Qt::endl;
         else
             out << readingSummaryLine(snapshot) << Qt::endl;
+        if (alertLines) {
+            for (const QString &line : alertLines->add(snapshot, static_cast<double>(uptime.elapsed()) / 1000.0))
+                out << line << Qt::endl;
+        }
     };
     quitOnInterruptSignal();
     QTimer timer;
