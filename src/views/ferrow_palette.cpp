@@ -1,5 +1,7 @@
 #include "views/ferrow_palette.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <cmath>
 
@@ -144,13 +146,20 @@ QColor FerrowPalette::legible(const QColor &color) const
 {
     if (!increasesContrast())
         return color;
+    // Asked for at every paint, so each tone is worked out once. Views paint on the main thread only.
+    static QHash<quint64, QRgb> tones;
+    const quint64 key = (quint64(isDark()) << 32) | color.rgba();
+    if (const auto found = tones.constFind(key); found != tones.constEnd())
+        return QColor::fromRgba(*found);
     // Dark text must read on the darkest of the light grounds, light text on the lightest dark one;
     // then it reads on all of them.
     const QList<QColor> grounds = textGrounds();
     const auto byLuminance = [](const QColor &a, const QColor &b) { return relativeLuminance(a) < relativeLuminance(b); };
     const QColor hardest = isDark() ? *std::max_element(grounds.begin(), grounds.end(), byLuminance)
                                     : *std::min_element(grounds.begin(), grounds.end(), byLuminance);
-    return readableOn(color, hardest, kLegibleRatio);
+    const QColor tone = readableOn(color, hardest, kLegibleRatio);
+    tones.insert(key, tone.rgba());
+    return tone;
 }
 
 QColor FerrowPalette::meterTile(const QColor &color) const
