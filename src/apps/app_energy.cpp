@@ -1,0 +1,88 @@
+#include "apps/app_energy.h"
+
+#include <array>
+#include <utility>
+
+namespace ferrow {
+
+namespace {
+
+constexpr std::array<std::pair<AttributionMethod, const char *>, 4> kMethodNames{{
+    {AttributionMethod::measured, "measured"},
+    {AttributionMethod::chipShare, "chip_share"},
+    {AttributionMethod::systemShare, "system_share"},
+    {AttributionMethod::cpuTime, "cpu_time"},
+}};
+
+constexpr std::array<std::pair<AppPeriod, const char *>, 4> kPeriodNames{{
+    {AppPeriod::session, "session"},
+    {AppPeriod::today, "today"},
+    {AppPeriod::sevenDays, "7d"},
+    {AppPeriod::thirtyDays, "30d"},
+}};
+
+template <typename Enum, std::size_t N>
+const char *nameOf(const std::array<std::pair<Enum, const char *>, N> &names, Enum value)
+{
+    for (const auto &[candidate, name] : names) {
+        if (candidate == value)
+            return name;
+    }
+    return "";
+}
+
+template <typename Enum, std::size_t N>
+std::optional<Enum> valueOf(const std::array<std::pair<Enum, const char *>, N> &names, QStringView text)
+{
+    for (const auto &[value, name] : names) {
+        if (text == QLatin1String(name))
+            return value;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+const char *attributionMethodName(AttributionMethod method)
+{
+    return nameOf(kMethodNames, method);
+}
+
+std::optional<AttributionMethod> attributionMethodFromName(QStringView name)
+{
+    return valueOf(kMethodNames, name);
+}
+
+const char *appPeriodName(AppPeriod period)
+{
+    return nameOf(kPeriodNames, period);
+}
+
+std::optional<AppPeriod> appPeriodFromName(QStringView name)
+{
+    return valueOf(kPeriodNames, name);
+}
+
+std::optional<double> AppEnergyList::totalJ() const
+{
+    std::optional<double> total;
+    for (const AppEnergy &app : apps) {
+        if (app.energyJ)
+            total = total.value_or(0) + *app.energyJ;
+    }
+    return total;
+}
+
+std::optional<double> AppEnergyList::share(const AppEnergy &app) const
+{
+    if (app.energyJ) {
+        const std::optional<double> total = totalJ();
+        return total && *total > 0 ? std::optional(*app.energyJ / *total) : std::nullopt;
+    }
+    double cpuS = 0;
+    for (const AppEnergy &other : apps)
+        cpuS += other.cpuTimeS;
+    return cpuS > 0 ? std::optional(app.cpuTimeS / cpuS) : std::nullopt;
+}
+
+} // namespace ferrow
