@@ -72,9 +72,12 @@ std::optional<MacSources> openMacSources(const MachineSource &source, QString *e
 
 OpenedMachine openedFrom(NativeMachine native)
 {
-    OpenedMachine opened{std::move(native.reader), std::move(native.description)};
+    OpenedMachine opened;
+    opened.reader = std::move(native.reader);
+    opened.description = std::move(native.description);
     opened.chipPowerNeedsPermission = native.chipPowerNeedsPermission;
     opened.isMac = native.isMac;
+    opened.processes = std::move(native.processes);
     return opened;
 }
 
@@ -128,8 +131,13 @@ std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *e
     std::optional<MacSources> mac = openMacSources(source, error);
     if (!mac)
         return std::nullopt;
-    return OpenedMachine{std::make_unique<PowerSensorReader>(std::move(mac->platform)), std::move(mac->description), mac->isSimulated,
-                         mac->runsInRealTime, mac->subtitleKey};
+    OpenedMachine opened;
+    opened.reader = std::make_unique<PowerSensorReader>(std::move(mac->platform));
+    opened.description = std::move(mac->description);
+    opened.isSimulated = mac->isSimulated;
+    opened.runsInRealTime = mac->runsInRealTime;
+    opened.subtitleKey = mac->subtitleKey;
+    return opened;
 }
 
 std::optional<Diagnosis> diagnoseMachine(const MachineSource &source, QString *error)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/process_sample.h"
 #include "model/diagnosis.h"
 #include "monitor/snapshot_reader.h"
 
@@ -31,6 +32,8 @@ struct OpenedMachine {
     bool chipPowerNeedsPermission = false;
     // A Mac, or a recording or simulation of one; otherwise the texts say "this computer".
     bool isMac = true;
+    // The machine's processes, for energy per application; nothing where they cannot be read.
+    std::unique_ptr<ProcessSource> processes;
 };
 
 // Opens the machine, or explains in one line why it could not be opened.

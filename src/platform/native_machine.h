@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/process_sample.h"
 #include "model/diagnosis.h"
 #include "monitor/snapshot_reader.h"
 
@@ -20,6 +21,8 @@ struct NativeMachine {
     bool chipPowerNeedsPermission = false;
     // Whether the texts may call it "this Mac"; otherwise they say "this computer".
     bool isMac = true;
+    // This machine's processes, where the backend can enumerate them; nothing for a copy.
+    std::unique_ptr<ProcessSource> processes;
 };
 
 // This machine, or nothing when it has nothing to read (no battery, supply or power sensor, or a

@@ -26,8 +26,12 @@ std::string nativePath(const QString &root)
 
 NativeMachine opened(std::unique_ptr<LinuxPowerReader> reader, QString description)
 {
-    const bool needsPermission = reader->chipPowerNeedsPermission();
-    return NativeMachine{std::move(reader), std::move(description), needsPermission, false};
+    NativeMachine machine;
+    machine.chipPowerNeedsPermission = reader->chipPowerNeedsPermission();
+    machine.reader = std::move(reader);
+    machine.description = std::move(description);
+    machine.isMac = false;
+    return machine;
 }
 
 } // namespace
