@@ -1,6 +1,8 @@
 #include "apps/app_energy.h"
 
+#include <algorithm>
 #include <array>
+#include <tuple>
 #include <utility>
 
 namespace ferrow {
@@ -83,6 +85,19 @@ std::optional<double> AppEnergyList::share(const AppEnergy &app) const
     for (const AppEnergy &other : apps)
         cpuS += other.cpuTimeS;
     return cpuS > 0 ? std::optional(app.cpuTimeS / cpuS) : std::nullopt;
+}
+
+void sortMostFirst(std::vector<AppEnergy> &apps)
+{
+    std::sort(apps.begin(), apps.end(), [](const AppEnergy &a, const AppEnergy &b) {
+        const double aJ = a.energyJ.value_or(-1.0);
+        const double bJ = b.energyJ.value_or(-1.0);
+        if (aJ != bJ)
+            return aJ > bJ;
+        if (a.cpuTimeS != b.cpuTimeS)
+            return a.cpuTimeS > b.cpuTimeS;
+        return std::tuple(a.kind, a.group) < std::tuple(b.kind, b.group);
+    });
 }
 
 } // namespace ferrow

@@ -63,4 +63,7 @@ struct AppEnergyList {
     std::optional<double> share(const AppEnergy &app) const;
 };
 
+// Most energy first; CPU time where neither has energy, then the name, so the order is stable.
+void sortMostFirst(std::vector<AppEnergy> &apps);
+
 } // namespace ferrow
