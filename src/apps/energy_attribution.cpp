@@ -32,6 +32,7 @@ std::optional<AttributedInterval> EnergyAttribution::add(const ProcessFrame &fra
         if (m_last.contains(key))
             continue; // listed twice: counted once
         m_last.insert(key, Counters{process.cpuTimeS, process.energyJ});
+        anyEnergy = anyEnergy || process.energyJ.has_value(); // the system measures, whoever used it
         if (!counts)
             continue;
         Counters before;
@@ -61,7 +62,6 @@ std::optional<AttributedInterval> EnergyAttribution::add(const ProcessFrame &fra
         use.isSelf = use.isSelf || process.isSelf;
         if (energyJ) {
             use.energyJ = use.energyJ.value_or(0.0) + *energyJ;
-            anyEnergy = true;
         }
     }
     if (!counts)

@@ -271,7 +271,7 @@ bool HistoryDatabase::prepareSchema()
                        "health_percent INTEGER, full_charge_capacity_mah INTEGER, design_capacity_mah INTEGER, cycle_count INTEGER, "
                        "PRIMARY KEY (battery_id, day))"),
         QStringLiteral("CREATE TABLE IF NOT EXISTS applications (id INTEGER PRIMARY KEY, app TEXT NOT NULL UNIQUE, "
-                       "name TEXT NOT NULL, icon TEXT NOT NULL, kind INTEGER NOT NULL)"),
+                       "name TEXT, icon TEXT, kind INTEGER NOT NULL)"),
         applicationPeriodTable("app_minutes"),
         applicationPeriodTable("app_hours"),
         QStringLiteral("PRAGMA user_version = %1").arg(kSchemaVersion),
