@@ -23,6 +23,13 @@ constexpr std::array<std::pair<AppPeriod, const char *>, 4> kPeriodNames{{
     {AppPeriod::thirtyDays, "30d"},
 }};
 
+constexpr std::array<std::pair<AppEnergy::Kind, const char *>, 4> kKindNames{{
+    {AppEnergy::Kind::application, "application"},
+    {AppEnergy::Kind::self, "self"},
+    {AppEnergy::Kind::others, "others"},
+    {AppEnergy::Kind::rest, "rest"},
+}};
+
 template <typename Enum, std::size_t N>
 const char *nameOf(const std::array<std::pair<Enum, const char *>, N> &names, Enum value)
 {
@@ -53,6 +60,11 @@ const char *attributionMethodName(AttributionMethod method)
 std::optional<AttributionMethod> attributionMethodFromName(QStringView name)
 {
     return valueOf(kMethodNames, name);
+}
+
+const char *appKindName(AppEnergy::Kind kind)
+{
+    return nameOf(kKindNames, kind);
 }
 
 const char *appPeriodName(AppPeriod period)

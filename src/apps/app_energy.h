@@ -50,6 +50,9 @@ struct AppEnergy {
     }
 };
 
+// "application", "self", "others", "rest": the exports' names.
+const char *appKindName(AppEnergy::Kind kind);
+
 // A period's list, most energy first (CPU time where there is no energy); self is in it wherever
 // it ranks.
 struct AppEnergyList {

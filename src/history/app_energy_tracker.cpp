@@ -1,5 +1,7 @@
 #include "history/app_energy_tracker.h"
 
+#include <QDateTime>
+
 #include <algorithm>
 
 namespace ferrow {
@@ -66,6 +68,21 @@ std::optional<AppMinuteRecord> AppEnergyTracker::flush()
 AppEnergyList AppEnergyTracker::session() const
 {
     return withSelfSinceStart(m_session.list(), m_self);
+}
+
+UnixSeconds appPeriodStart(AppPeriod period, UnixSeconds now, UnixSeconds sessionStart)
+{
+    switch (period) {
+    case AppPeriod::session:
+        return sessionStart;
+    case AppPeriod::today:
+        break;
+    case AppPeriod::sevenDays:
+        return now - 7 * 86'400;
+    case AppPeriod::thirtyDays:
+        return now - 30 * 86'400;
+    }
+    return QDateTime::fromSecsSinceEpoch(now).date().startOfDay().toSecsSinceEpoch();
 }
 
 AppEnergyList withSelfSinceStart(AppEnergyList list, const AppEnergy &self)

@@ -42,6 +42,9 @@ private:
     AppEnergy m_self{AppEnergy::Kind::self, {}, {}, {}, std::nullopt, 0.0, 0.0, AttributionMethod::measured};
 };
 
+// Where a stored period starts at now: the session's start, local midnight, 7 or 30 days back.
+UnixSeconds appPeriodStart(AppPeriod period, UnixSeconds now, UnixSeconds sessionStart);
+
 // The list with this program's line replaced by its use since it started: the one line that
 // always shows, whatever the period.
 AppEnergyList withSelfSinceStart(AppEnergyList list, const AppEnergy &self);
