@@ -1,6 +1,7 @@
 // What keeping history costs: committing one minute, folding a second's reading, and reading a
 // year back as days for the History section. The year is 30 days of minutes and 335 of hours, as
-// the retention leaves it; its file size is reported as a counter.
+// the retention leaves it, with the applications' energy as the application stores it (a minute's
+// top five, this program, the system and the rest); its file size is reported as a counter.
 
 #include "history/history_database.h"
 #include "history/minute_folder.h"
@@ -36,6 +37,21 @@ MinuteRecord minuteAt(UnixSeconds start, double seconds)
     minute.charging = true;
     minute.batteryId = QStringLiteral("5e4c0d1f9a2b7c3e8d6f1a0b9c2d3e4f5a6b7c8d9e0f1a2b3c4d5e6f7a8b9c0d");
     return minute;
+}
+
+// A minute's (or, as the roll-up leaves it, an hour's) applications: eight lines.
+AppMinuteRecord applicationsAt(UnixSeconds start, double seconds)
+{
+    AppMinuteRecord record{start, {{}, std::min(seconds, 60.0), AttributionMethod::measured}};
+    const auto line = [&](AppEnergy::Kind kind, QString group, double energyJ) {
+        record.apps.apps.push_back({kind, group, group.section(u'/', -1), group, energyJ * seconds / 60, seconds / 120, seconds, AttributionMethod::measured});
+    };
+    for (int app = 0; app < 5; ++app)
+        line(AppEnergy::Kind::application, QStringLiteral("/Applications/Application %1.app").arg((start / 600 + app) % 40), 60.0 / (app + 1));
+    line(AppEnergy::Kind::self, QStringLiteral("/Applications/Ferrow.app"), 0.2);
+    line(AppEnergy::Kind::others, {}, 40);
+    line(AppEnergy::Kind::rest, {}, 12);
+    return record;
 }
 
 void writeMinute(benchmark::State &state)
@@ -83,10 +99,22 @@ void readYearAsDays(benchmark::State &state)
         for (UnixSeconds t = kYearStart; t < minutesFrom; t += 3600)
             rows.push_back(minuteAt(t, 3600));
         // Old enough to be hours already: written as minutes, then rolled up.
+        std::vector<AppMinuteRecord> apps;
+        for (UnixSeconds t = kYearStart; t < minutesFrom; t += 3600) {
+            // An hour holds more applications than a minute: two minutes' sets.
+            apps.push_back(applicationsAt(t, 1800));
+            apps.push_back(applicationsAt(t + 60 * 300, 1800));
+            apps.back().start = t + 60;
+        }
+        database.writeApplications(apps);
         database.write(rows, {}, {}, kYearStart);
         rows.clear();
-        for (UnixSeconds t = minutesFrom; t < kYearStart + 365 * 86'400; t += 60)
+        apps.clear();
+        for (UnixSeconds t = minutesFrom; t < kYearStart + 365 * 86'400; t += 60) {
             rows.push_back(minuteAt(t, 60));
+            apps.push_back(applicationsAt(t, 60));
+        }
+        database.writeApplications(apps);
         database.write(rows, {}, {}, kYearStart + 365 * 86'400);
     }
     HistoryDatabase database(path, HistoryDatabase::Mode::readOnly);
@@ -97,6 +125,28 @@ void readYearAsDays(benchmark::State &state)
     state.counters["file_MB"] = static_cast<double>(QFileInfo(path).size() + QFileInfo(path + QStringLiteral("-wal")).size()) / 1e6;
 }
 BENCHMARK(readYearAsDays)->Unit(benchmark::kMillisecond);
+
+// The details window's "30 days" list: a month of applications' minutes summed.
+void readMonthOfApplications(benchmark::State &state)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("history.sqlite"));
+    const UnixSeconds end = kYearStart + 30 * 86'400;
+    {
+        HistoryDatabase database(path, HistoryDatabase::Mode::readWrite);
+        std::vector<AppMinuteRecord> apps;
+        for (UnixSeconds t = kYearStart; t < end; t += 60)
+            apps.push_back(applicationsAt(t, 60));
+        database.writeApplications(apps);
+    }
+    HistoryDatabase database(path, HistoryDatabase::Mode::readOnly);
+    std::size_t lines = 0;
+    for (auto _ : state)
+        lines = database.applications(kYearStart, end).apps.size();
+    state.counters["lines"] = static_cast<double>(lines);
+    state.counters["file_MB"] = static_cast<double>(QFileInfo(path).size() + QFileInfo(path + QStringLiteral("-wal")).size()) / 1e6;
+}
+BENCHMARK(readMonthOfApplications)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
