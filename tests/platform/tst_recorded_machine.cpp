@@ -287,7 +287,7 @@ private slots:
 
         QTemporaryDir folder;
         QString error;
-        QVERIFY2(writeRecording(*subject.machine, subject.description, subject.waitOneSecond, folder.path(), &error), qPrintable(error));
+        QVERIFY2(writeRecording(*subject.machine, nullptr, subject.description, subject.waitOneSecond, folder.path(), &error), qPrintable(error));
         std::optional<Recording> written = loadRecording(folder.path(), &error);
         QVERIFY2(written, qPrintable(error));
         QCOMPARE(written->description, subject.description);
