@@ -38,6 +38,44 @@ UnixSeconds periodStart(UnixSeconds moment, HistoryPeriod per)
     return QDateTime::fromSecsSinceEpoch(moment).date().startOfDay().toSecsSinceEpoch();
 }
 
+int printTable(const QString &error, const QByteArray &text)
+{
+    if (!error.isEmpty()) {
+        QTextStream(stderr) << "ferrow-cli: " << QString(error).replace(u'\n', u' ') << '\n';
+        return 1;
+    }
+    QFile out;
+    if (!out.open(stdout, QIODevice::WriteOnly) || out.write(text) != text.size() || !out.flush())
+        return 1;
+    return 0;
+}
+
+QString databasePath(const QString &given)
+{
+    return given.isEmpty() ? HistoryRecorder::defaultDatabasePath() : given;
+}
+
+int printApplications(const QString &periodName, TableFormat format, const QString &path)
+{
+    const std::optional<AppPeriod> period = appPeriodFromName(periodName);
+    if (!period) {
+        QTextStream(stderr) << "ferrow-cli: --period takes session, today, 7d or 30d, not '" << periodName << "'\n";
+        return 2;
+    }
+    const HistoryDatabase database(databasePath(path), HistoryDatabase::Mode::readOnly);
+    QString error = database.error();
+    QByteArray text;
+    if (error.isEmpty()) {
+        const UnixSeconds now = QDateTime::currentSecsSinceEpoch();
+        // The session is the newest stored one, written with every minute while it lasts.
+        const std::vector<SessionRecord> newest = database.sessions(0, now + 1, 1, &error);
+        const UnixSeconds from = appPeriodStart(*period, now, newest.empty() ? now : newest.front().start);
+        if (error.isEmpty())
+            text = applicationsTable(database.applications(from, now + 1, &error), format);
+    }
+    return printTable(error, text);
+}
+
 } // namespace
 
 int printHistory(const HistoryOptions &options)
@@ -54,6 +92,8 @@ int printHistory(const HistoryOptions &options)
         format = TableFormat::json;
     else
         return usage(QStringLiteral("--format takes csv or json, not '%1'").arg(options.format));
+    if (options.apps)
+        return printApplications(options.appPeriod, *format, options.database);
     const std::optional<HistoryPeriod> per = parsePeriod(options.per);
     if (!per)
         return usage(QStringLiteral("--per takes minute, hour or day, not '%1'").arg(options.per));
@@ -80,22 +120,14 @@ int printHistory(const HistoryOptions &options)
     if (from >= to)
         return usage(QStringLiteral("--from (%1) is not before --to (%2)").arg(isoUtc(from), isoUtc(to)));
 
-    const QString path = options.database.isEmpty() ? HistoryRecorder::defaultDatabasePath() : options.database;
-    const HistoryDatabase database(path, HistoryDatabase::Mode::readOnly);
+    const HistoryDatabase database(databasePath(options.database), HistoryDatabase::Mode::readOnly);
     QString error = database.error();
     QByteArray text;
     if (error.isEmpty()) {
         text = options.sessions ? sessionsTable(database.sessions(from, to, -1, &error), *format)
                                 : periodsTable(database.energy(from, to, *per, &error), *format);
     }
-    if (!error.isEmpty()) {
-        err << "ferrow-cli: " << QString(error).replace(u'\n', u' ') << '\n';
-        return 1;
-    }
-    QFile out;
-    if (!out.open(stdout, QIODevice::WriteOnly) || out.write(text) != text.size() || !out.flush())
-        return 1;
-    return 0;
+    return printTable(error, text);
 }
 
 } // namespace ferrow

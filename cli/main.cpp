@@ -69,21 +69,36 @@ int main(int argc, char *argv[])
         QStringLiteral("database"),
         QStringLiteral("With --history or --sessions: the history file to read, never written (default: %1).").arg(HistoryRecorder::defaultDatabasePath()),
         QStringLiteral("PATH"));
-    parser.addOptions({historyOption, sessionsOption, fromOption, toOption, perOption, formatOption, databaseOption});
+    const QCommandLineOption appsOption(
+        QStringLiteral("apps"),
+        QStringLiteral("Print the energy each application used, most first, as CSV or JSON, each line saying whether it was measured or "
+                       "estimated (docs/history-database.md)."));
+    const QCommandLineOption periodOption(QStringLiteral("period"),
+                                          QStringLiteral("With --apps: the current session (default), today, 7d or 30d."),
+                                          QStringLiteral("PERIOD"), QStringLiteral("session"));
+    parser.addOptions({historyOption, sessionsOption, appsOption, periodOption, fromOption, toOption, perOption, formatOption, databaseOption});
     parser.process(application);
 
     QTextStream err(stderr);
-    const bool history = parser.isSet(historyOption) || parser.isSet(sessionsOption);
+    const bool history = parser.isSet(historyOption) || parser.isSet(sessionsOption) || parser.isSet(appsOption);
     const bool historyOptions = parser.isSet(fromOption) || parser.isSet(toOption) || parser.isSet(perOption)
-                             || parser.isSet(formatOption) || parser.isSet(databaseOption);
+                             || parser.isSet(formatOption) || parser.isSet(databaseOption) || parser.isSet(periodOption);
     if (history) {
         const QList<QCommandLineOption> others = {sourceOption, onceOption, watchOption, jsonOption, recordOption, diagnoseOption, serveOption};
         if (std::any_of(others.begin(), others.end(), [&](const QCommandLineOption &option) { return parser.isSet(option); })) {
-            err << "ferrow-cli: --history and --sessions take only --from, --to, --per, --format and --database\n";
+            err << "ferrow-cli: --history, --sessions and --apps take only --from, --to, --per, --period, --format and --database\n";
             return 2;
         }
-        if (parser.isSet(historyOption) && parser.isSet(sessionsOption)) {
-            err << "ferrow-cli: --history and --sessions exclude each other\n";
+        if (int(parser.isSet(historyOption)) + int(parser.isSet(sessionsOption)) + int(parser.isSet(appsOption)) > 1) {
+            err << "ferrow-cli: --history, --sessions and --apps exclude each other\n";
+            return 2;
+        }
+        if (parser.isSet(appsOption) && (parser.isSet(fromOption) || parser.isSet(toOption) || parser.isSet(perOption))) {
+            err << "ferrow-cli: --apps takes --period rather than --from, --to or --per\n";
+            return 2;
+        }
+        if (parser.isSet(periodOption) && !parser.isSet(appsOption)) {
+            err << "ferrow-cli: --period goes with --apps only\n";
             return 2;
         }
         if (parser.isSet(sessionsOption) && parser.isSet(perOption)) {
@@ -94,6 +109,8 @@ int main(int argc, char *argv[])
             return parser.isSet(option) ? std::optional(parser.value(option)) : std::nullopt;
         };
         return printHistory({.sessions = parser.isSet(sessionsOption),
+                             .apps = parser.isSet(appsOption),
+                             .appPeriod = parser.value(periodOption),
                              .from = given(fromOption),
                              .to = given(toOption),
                              .per = parser.value(perOption),
@@ -101,7 +118,7 @@ int main(int argc, char *argv[])
                              .database = parser.value(databaseOption)});
     }
     if (historyOptions) {
-        err << "ferrow-cli: --from, --to, --per, --format and --database go with --history or --sessions\n";
+        err << "ferrow-cli: --from, --to, --per, --period, --format and --database go with --history, --sessions or --apps\n";
         return 2;
     }
     if (parser.isSet(serveOption)

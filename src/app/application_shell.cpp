@@ -4,6 +4,7 @@
 #include "app/app_settings.h"
 #include "app/menu_bar_label.h"
 #include "app/popover_placement.h"
+#include "app/process_sampler.h"
 #include "history/history_recorder.h"
 #include "model/localized_text.h"
 #include "monitor/power_monitor.h"
@@ -118,6 +119,10 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     connect(m_dashboard, &DashboardView::launchAtLoginNoteClicked, this, [this] { m_loginItem->openSettingsForState(); });
     startHistory(preferences.keepHistory);
     connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, [this] { m_history->record(m_monitor->snapshot()); });
+    if (machine.processes) {
+        m_processSampler = std::make_unique<ProcessSampler>(std::move(machine.processes), *m_monitor);
+        connect(m_processSampler.get(), &ProcessSampler::sampled, this, [this](const ProcessFrame &frame) { m_history->recordProcesses(frame); });
+    }
     connect(m_monitor.get(), &PowerMonitor::snapshotChanged, this, &ApplicationShell::showSnapshot);
     if (m_notifier)
         connect(m_notifier.get(), &Notifier::permissionChanged, this, &ApplicationShell::showNotificationPermission);
@@ -224,6 +229,8 @@ void ApplicationShell::persist()
 void ApplicationShell::start()
 {
     m_monitor->start();
+    if (m_processSampler)
+        m_processSampler->start();
     if (m_menuBarItem) {
         updateTrayItem();
     } else {
@@ -321,6 +328,8 @@ void ApplicationShell::showSnapshot()
         followAlerts();
     m_dashboard->setSnapshot(m_monitor->snapshot());
     m_dashboard->setCurrentSession(m_history->currentSession(), QDateTime::currentSecsSinceEpoch());
+    if (m_processSampler)
+        m_processSampler->setWatched(hasVisibleWindow());
     if (m_mainWindow) {
         m_mainWindow->setSnapshot(m_monitor->snapshot());
         // The stored history moves once a minute; so does what the open window shows of it.

@@ -23,6 +23,7 @@ class DashboardView;
 class HistoryRecorder;
 class MainWindowView;
 class PowerMonitor;
+class ProcessSampler;
 class SleepWakeNotifier;
 
 // The running application: the one monitor, the menu-bar (tray) item with its popover, and the
@@ -74,6 +75,7 @@ private:
     std::unique_ptr<SleepWakeNotifier> m_sleepWake;
     std::unique_ptr<LoginItem> m_loginItem;
     std::unique_ptr<PowerMonitor> m_monitor;
+    std::unique_ptr<ProcessSampler> m_processSampler; // none where the processes cannot be read
     std::unique_ptr<HistoryRecorder> m_history;
     std::unique_ptr<QWidget> m_window;
     DashboardView *m_dashboard = nullptr;

@@ -6,6 +6,7 @@
 #include "platform/native_machine.h"
 #include "platform/recorded/recorded_machine.h"
 #include "platform/simulated/simulated_machine.h"
+#include "platform/simulated/simulated_processes.h"
 #include "sources/mac_source_diagnosis.h"
 #include "sources/power_sensor_reader.h"
 
@@ -38,6 +39,7 @@ const char *const kInsteadOfThisMachine = "simulated notebook (this machine show
 // recording.
 struct MacSources {
     std::unique_ptr<MachinePlatform> platform;
+    std::unique_ptr<ProcessSource> processes;
     QString description;
     bool isSimulated = false;
     bool runsInRealTime = true;
@@ -50,7 +52,9 @@ std::optional<MacSources> openMacSources(const MachineSource &source, QString *e
     const auto simulated = [](Kind kind, const char *description, const char *subtitleKey) {
         SimulatedMachine::Options options;
         options.kind = kind;
-        return MacSources{std::make_unique<SimulatedMachine>(options), QString::fromLatin1(description), true, true, subtitleKey};
+        auto machine = std::make_unique<SimulatedMachine>(options);
+        auto processes = std::make_unique<SimulatedProcessSource>(*machine);
+        return MacSources{std::move(machine), std::move(processes), QString::fromLatin1(description), true, true, subtitleKey};
     };
     switch (source.kind) {
     case MachineSource::Kind::automatic:
@@ -67,7 +71,7 @@ std::optional<MacSources> openMacSources(const MachineSource &source, QString *e
     if (!recording)
         return std::nullopt;
     const QString description = recording->description.isEmpty() ? source.recordingPath : recording->description;
-    return MacSources{std::make_unique<RecordedMachine>(std::move(*recording)), QStringLiteral("recording of ") + description, false, false};
+    return MacSources{std::make_unique<RecordedMachine>(std::move(*recording)), nullptr, QStringLiteral("recording of ") + description, false, false};
 }
 
 OpenedMachine openedFrom(NativeMachine native)
@@ -137,6 +141,7 @@ std::optional<OpenedMachine> openMachine(const MachineSource &source, QString *e
     opened.isSimulated = mac->isSimulated;
     opened.runsInRealTime = mac->runsInRealTime;
     opened.subtitleKey = mac->subtitleKey;
+    opened.processes = std::move(mac->processes);
     return opened;
 }
 

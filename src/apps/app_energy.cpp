@@ -1,6 +1,8 @@
 #include "apps/app_energy.h"
 
+#include <algorithm>
 #include <array>
+#include <tuple>
 #include <utility>
 
 namespace ferrow {
@@ -19,6 +21,13 @@ constexpr std::array<std::pair<AppPeriod, const char *>, 4> kPeriodNames{{
     {AppPeriod::today, "today"},
     {AppPeriod::sevenDays, "7d"},
     {AppPeriod::thirtyDays, "30d"},
+}};
+
+constexpr std::array<std::pair<AppEnergy::Kind, const char *>, 4> kKindNames{{
+    {AppEnergy::Kind::application, "application"},
+    {AppEnergy::Kind::self, "self"},
+    {AppEnergy::Kind::others, "others"},
+    {AppEnergy::Kind::rest, "rest"},
 }};
 
 template <typename Enum, std::size_t N>
@@ -53,6 +62,11 @@ std::optional<AttributionMethod> attributionMethodFromName(QStringView name)
     return valueOf(kMethodNames, name);
 }
 
+const char *appKindName(AppEnergy::Kind kind)
+{
+    return nameOf(kKindNames, kind);
+}
+
 const char *appPeriodName(AppPeriod period)
 {
     return nameOf(kPeriodNames, period);
@@ -83,6 +97,19 @@ std::optional<double> AppEnergyList::share(const AppEnergy &app) const
     for (const AppEnergy &other : apps)
         cpuS += other.cpuTimeS;
     return cpuS > 0 ? std::optional(app.cpuTimeS / cpuS) : std::nullopt;
+}
+
+void sortMostFirst(std::vector<AppEnergy> &apps)
+{
+    std::sort(apps.begin(), apps.end(), [](const AppEnergy &a, const AppEnergy &b) {
+        const double aJ = a.energyJ.value_or(-1.0);
+        const double bJ = b.energyJ.value_or(-1.0);
+        if (aJ != bJ)
+            return aJ > bJ;
+        if (a.cpuTimeS != b.cpuTimeS)
+            return a.cpuTimeS > b.cpuTimeS;
+        return std::tuple(a.kind, a.group) < std::tuple(b.kind, b.group);
+    });
 }
 
 } // namespace ferrow

@@ -50,6 +50,9 @@ struct AppEnergy {
     }
 };
 
+// "application", "self", "others", "rest": the exports' names.
+const char *appKindName(AppEnergy::Kind kind);
+
 // A period's list, most energy first (CPU time where there is no energy); self is in it wherever
 // it ranks.
 struct AppEnergyList {
@@ -62,5 +65,8 @@ struct AppEnergyList {
     // The app's share of the period's energy (or CPU time) in 0…1.
     std::optional<double> share(const AppEnergy &app) const;
 };
+
+// Most energy first; CPU time where neither has energy, then the name, so the order is stable.
+void sortMostFirst(std::vector<AppEnergy> &apps);
 
 } // namespace ferrow

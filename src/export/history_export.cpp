@@ -55,6 +55,24 @@ const std::array<Column<SessionRecord>, 10> kSessionColumns{{
     {"battery_id", [](const SessionRecord &s) { return orEmpty(s.batteryId); }},
 }};
 
+struct AppLine {
+    const AppEnergy *app;
+    std::optional<double> share;
+};
+
+const std::array<Column<AppLine>, 10> kApplicationColumns{{
+    {"kind", [](const AppLine &l) -> Cell { return QString::fromLatin1(appKindName(l.app->kind)); }},
+    {"app", [](const AppLine &l) -> Cell { return l.app->group; }},
+    {"name", [](const AppLine &l) -> Cell { return l.app->name; }},
+    {"energy_wh", [](const AppLine &l) { return orEmpty(l.app->energyJ ? std::optional(*l.app->energyJ / 3600.0) : std::nullopt); }},
+    {"share", [](const AppLine &l) { return orEmpty(l.share); }},
+    {"mean_power_w", [](const AppLine &l) { return orEmpty(l.app->meanPowerW()); }},
+    {"cpu_s", [](const AppLine &l) -> Cell { return l.app->cpuTimeS; }},
+    {"covered_s", [](const AppLine &l) -> Cell { return l.app->coveredS; }},
+    {"method", [](const AppLine &l) -> Cell { return QString::fromLatin1(attributionMethodName(l.app->method)); }},
+    {"estimated", [](const AppLine &l) -> Cell { return !l.app->isMeasured(); }},
+}};
+
 QByteArray csvText(const QString &text)
 {
     static const QRegularExpression needsQuotes(QStringLiteral("[,\"\\r\\n]"));
@@ -151,6 +169,15 @@ QByteArray periodsTable(const std::vector<PeriodEnergy> &periods, TableFormat fo
 QByteArray sessionsTable(const std::vector<SessionRecord> &sessions, TableFormat format)
 {
     return table(sessions, kSessionColumns, format);
+}
+
+QByteArray applicationsTable(const AppEnergyList &list, TableFormat format)
+{
+    std::vector<AppLine> lines;
+    lines.reserve(list.apps.size());
+    for (const AppEnergy &app : list.apps)
+        lines.push_back({&app, list.share(app)});
+    return table(lines, kApplicationColumns, format);
 }
 
 std::optional<UnixSeconds> parseIsoTime(QStringView text, const std::optional<QTimeZone> &zone)

@@ -18,6 +18,8 @@ enum class TableFormat { csv, json };
 // value is an empty cell or null. The columns are listed in docs/history-database.md.
 QByteArray periodsTable(const std::vector<PeriodEnergy> &periods, TableFormat format);
 QByteArray sessionsTable(const std::vector<SessionRecord> &sessions, TableFormat format);
+// One line per application, most energy first, each saying how its energy was found.
+QByteArray applicationsTable(const AppEnergyList &list, TableFormat format);
 
 // "2026-11-23T23:00:00Z"
 QString isoUtc(UnixSeconds seconds);

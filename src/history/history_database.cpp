@@ -1,5 +1,6 @@
 #include "history/history_database.h"
 
+#include "history/application_tables.h"
 #include "model/private_file.h"
 
 #include <QDateTime>
@@ -269,6 +270,10 @@ bool HistoryDatabase::prepareSchema()
         QStringLiteral("CREATE TABLE IF NOT EXISTS battery_days (battery_id TEXT NOT NULL, day TEXT NOT NULL, "
                        "health_percent INTEGER, full_charge_capacity_mah INTEGER, design_capacity_mah INTEGER, cycle_count INTEGER, "
                        "PRIMARY KEY (battery_id, day))"),
+        QStringLiteral("CREATE TABLE IF NOT EXISTS applications (id INTEGER PRIMARY KEY, app TEXT NOT NULL UNIQUE, "
+                       "name TEXT, icon TEXT, kind INTEGER NOT NULL)"),
+        applicationPeriodTable("app_minutes"),
+        applicationPeriodTable("app_hours"),
         QStringLiteral("PRAGMA user_version = %1").arg(kSchemaVersion),
     };
     for (const QString &statement : statements) {
@@ -379,6 +384,8 @@ bool HistoryDatabase::rollUp(UnixSeconds now)
     query.prepare(QStringLiteral("DELETE FROM minutes WHERE start < ?"));
     query.addBindValue(static_cast<qlonglong>(cutoff));
     if (!query.exec())
+        return fail(QStringLiteral("cannot roll up %1").arg(m_path), query.lastError().text());
+    if (!rollUpApplications(query, cutoff))
         return fail(QStringLiteral("cannot roll up %1").arg(m_path), query.lastError().text());
     return true;
 }

@@ -25,13 +25,13 @@ struct PeriodEnergy {
     std::optional<std::int64_t> batteryPercent; // at the period's end
 };
 
-// The history in one SQLite file: minutes for 30 days, hours after that, the sessions and each
-// battery's daily condition. One object per thread; it never deletes or rewrites a file it cannot
+// The history in one SQLite file: minutes for 30 days, hours after that, the sessions, each
+// battery's daily condition and the applications' energy by the minute (then by the hour). One object per thread; it never deletes or rewrites a file it cannot
 // read, and after any failure it says why in error() (naming a full or read-only disk) and takes
 // no more writes. Read-only, it reads a file on such a disk too.
 class HistoryDatabase {
 public:
-    static constexpr int kSchemaVersion = 1;
+    static constexpr int kSchemaVersion = 2;
     static constexpr UnixSeconds kMinuteRetentionS = 30 * 86'400;
 
     enum class Mode { readWrite, readOnly };
@@ -49,12 +49,17 @@ public:
     bool write(const std::vector<MinuteRecord> &minutes, const std::vector<SessionRecord> &sessions,
                const std::vector<BatteryDayRecord> &batteryDays, UnixSeconds now);
 
+    // The applications' minutes, in a transaction of their own.
+    bool writeApplications(const std::vector<AppMinuteRecord> &minutes);
+
     // A failed read gives an empty list, which alone would look like a stretch with nothing
     // stored: error, when given, says why (and is left empty on success).
     std::vector<PeriodEnergy> energy(UnixSeconds from, UnixSeconds to, HistoryPeriod per, QString *error = nullptr) const;
     // Sessions that ended at or after from and started before to, newest first.
     std::vector<SessionRecord> sessions(UnixSeconds from, UnixSeconds to, int limit = -1, QString *error = nullptr) const;
     std::vector<BatteryDayRecord> batteryDays() const;
+    // The applications' energy over [from, to), most first; each line covers the period's time.
+    AppEnergyList applications(UnixSeconds from, UnixSeconds to, QString *error = nullptr) const;
     // The first stored second, absent while nothing is stored.
     std::optional<UnixSeconds> firstRecord() const;
 

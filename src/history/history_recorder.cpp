@@ -24,6 +24,19 @@ public:
         return m_database ? m_database->error() : QString();
     }
 
+    QString writeApplications(const std::vector<AppMinuteRecord> &minutes)
+    {
+        if (HistoryDatabase *db = database())
+            db->writeApplications(minutes);
+        return m_database ? m_database->error() : QString();
+    }
+
+    AppEnergyList applications(UnixSeconds from, UnixSeconds to)
+    {
+        HistoryDatabase *db = database();
+        return db ? db->applications(from, to) : AppEnergyList{};
+    }
+
     HistoryOverview overview(UnixSeconds now)
     {
         HistoryOverview overview;
@@ -118,6 +131,7 @@ void HistoryRecorder::record(const PowerSnapshot &reading)
 {
     std::optional<MinuteRecord> finished = m_minutes.add(reading, m_monotonicS());
     std::optional<SessionRecord> ended = m_sessions.add(reading, m_minutes.lastStepS(), m_minutes.lastTime());
+    m_apps.addReading(reading, m_minutes.lastStepS());
     if (reading.hasBattery) {
         if (const std::optional<QString> id = m_sessions.current() ? m_sessions.current()->batteryId : std::nullopt) {
             // The day is worked out when a minute is written, not every second.
@@ -133,6 +147,43 @@ void HistoryRecorder::flush()
 {
     std::optional<MinuteRecord> minute = m_minutes.flush();
     write(minute ? std::vector{std::move(*minute)} : std::vector<MinuteRecord>{}, std::nullopt);
+    writeApplications(m_apps.flush());
+}
+
+void HistoryRecorder::recordProcesses(const ProcessFrame &frame)
+{
+    const UnixSeconds time = m_minutes.lastTime() > 0 ? m_minutes.lastTime() : unixNow();
+    const std::optional<SessionRecord> &session = m_sessions.current();
+    writeApplications(m_apps.addFrame(frame, time, session ? std::optional(session->start) : std::nullopt));
+    emit applicationsChanged();
+}
+
+void HistoryRecorder::writeApplications(std::optional<AppMinuteRecord> minute)
+{
+    if (!m_worker || !minute)
+        return;
+    QMetaObject::invokeMethod(m_worker, [this, worker = m_worker, minutes = std::vector{std::move(*minute)}] {
+        reportError(worker->writeApplications(minutes));
+    });
+}
+
+void HistoryRecorder::requestApplications(AppPeriod period, UnixSeconds from, UnixSeconds to)
+{
+    const auto answer = [this, period](const AppEnergyList &stored) {
+        emit applicationsReady(period, withSelfSinceStart(stored, m_apps.self()));
+    };
+    if (period == AppPeriod::session) {
+        answer(m_apps.session());
+        return;
+    }
+    if (!m_worker) {
+        answer(AppEnergyList{});
+        return;
+    }
+    QMetaObject::invokeMethod(m_worker, [this, worker = m_worker, from, to, answer] {
+        AppEnergyList list = worker->applications(from, to);
+        QMetaObject::invokeMethod(this, [answer, list = std::move(list)] { answer(list); });
+    });
 }
 
 void HistoryRecorder::write(std::vector<MinuteRecord> minutes, std::optional<SessionRecord> endedSession)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "history/app_energy_tracker.h"
 #include "history/history_database.h"
 #include "history/minute_folder.h"
 #include "history/session_tracker.h"
@@ -46,7 +47,13 @@ public:
     // error() is up to date (and errorChanged emitted) on return.
     void waitForWrites();
 
+    // A sample of the machine's processes: shares out the energy read since the one before.
+    void recordProcesses(const ProcessFrame &frame);
+
     const std::optional<SessionRecord> &currentSession() const { return m_sessions.current(); }
+    // The current session's applications, and this program since it started.
+    AppEnergyList sessionApplications() const { return m_apps.session(); }
+    const AppEnergy &selfSinceStart() const { return m_apps.self(); }
     bool keepsHistory() const { return !m_path.isEmpty(); }
     // Why the history cannot be kept, empty while it can (as last reported by the worker).
     const QString &error() const { return m_error; }
@@ -55,15 +62,21 @@ public:
     void deleteHistory();
     // Asks the worker for the overview; overviewReady answers on the main thread.
     void requestOverview(UnixSeconds now);
+    // Asks the worker for the stored applications of [from, to); applicationsReady answers on the
+    // main thread, with this program's line since it started (and only that without a database).
+    void requestApplications(AppPeriod period, UnixSeconds from, UnixSeconds to);
 
     static QString defaultDatabasePath();
 
 signals:
     void overviewReady(const ferrow::HistoryOverview &overview);
     void errorChanged();
+    void applicationsChanged();
+    void applicationsReady(ferrow::AppPeriod period, const ferrow::AppEnergyList &list);
 
 private:
     void write(std::vector<MinuteRecord> minutes, std::optional<SessionRecord> endedSession);
+    void writeApplications(std::optional<AppMinuteRecord> minute);
     // From the worker: takes the error to the main thread.
     void reportError(const QString &error);
 
@@ -71,6 +84,7 @@ private:
     MonotonicClock m_monotonicS;
     MinuteFolder m_minutes;
     SessionTracker m_sessions;
+    AppEnergyTracker m_apps;
     QSet<QString> m_batteryDaysWritten;
     std::optional<BatteryDayRecord> m_latestBatteryDay;
     QString m_error;

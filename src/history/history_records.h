@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/app_energy.h"
 #include "history/energy_totals.h"
 
 #include <QString>
@@ -50,6 +51,13 @@ struct BatteryDayRecord {
     std::optional<std::int64_t> fullChargeCapacityMAH;
     std::optional<std::int64_t> designCapacityMAH;
     std::optional<std::int64_t> cycleCount;
+};
+
+// The applications' energy in one minute: its top applications, this program, the system's
+// remainder and one line for the rest.
+struct AppMinuteRecord {
+    UnixSeconds start = 0;
+    AppEnergyList apps;
 };
 
 } // namespace ferrow

@@ -72,6 +72,11 @@ void PowerMonitor::persist()
     onReadingThread([this] { m_reader->persist(); });
 }
 
+void PowerMonitor::runBetweenReadings(std::function<void()> work)
+{
+    onReadingThread(std::move(work));
+}
+
 void PowerMonitor::stopTimer()
 {
     m_timer.reset();

@@ -11,6 +11,7 @@
 #include <QThread>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 class QTimer;
@@ -45,6 +46,9 @@ public slots:
     void restart();
     // Has the reader write what it keeps, on the reading worker after any reading in flight.
     void persist();
+    // Runs work on the reading thread between two readings: for a sampler that shares the
+    // reader's machine.
+    void runBetweenReadings(std::function<void()> work);
 
 signals:
     // Emitted before every store, equal values included, like any observable property.

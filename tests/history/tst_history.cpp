@@ -1,8 +1,10 @@
+#include "history/app_energy_tracker.h"
 #include "history/history_database.h"
 #include "history/history_recorder.h"
 #include "history/minute_folder.h"
 #include "history/session_tracker.h"
 #include "platform/simulated/simulated_machine.h"
+#include "platform/simulated/simulated_processes.h"
 #include "sources/power_sensor_reader.h"
 
 #include <QFile>
@@ -30,6 +32,7 @@ struct SimulatedHistory {
     explicit SimulatedHistory(const QString &path, std::uint64_t seed = 7)
         : machine(new SimulatedMachine({SimulatedPowerModel::Kind::notebook, seed, false, 26}))
         , reader(std::unique_ptr<MachinePlatform>(machine))
+        , processes(*machine)
         , database(path, HistoryDatabase::Mode::readWrite)
     {
     }
@@ -49,6 +52,13 @@ struct SimulatedHistory {
             pending.push_back(std::move(*minute));
         if (std::optional<SessionRecord> ended = sessions.add(reading, folder.lastStepS(), folder.lastTime()))
             ended_.push_back(std::move(*ended));
+        // The processes every 5 s, as while no window shows.
+        apps.addReading(reading, folder.lastStepS());
+        if (++sinceProcesses == 5) {
+            sinceProcesses = 0;
+            if (std::optional<AppMinuteRecord> minute = apps.addFrame(*processes.sample(), folder.lastTime(), sessions.current()->start))
+                appMinutes.push_back(std::move(*minute));
+        }
         if (pending.size() >= 60)
             commit();
     }
@@ -56,17 +66,23 @@ struct SimulatedHistory {
     void commit()
     {
         QVERIFY2(database.write(pending, ended_, {}, folder.lastTime()), qPrintable(database.error()));
+        QVERIFY2(database.writeApplications(appMinutes), qPrintable(database.error()));
         pending.clear();
         ended_.clear();
+        appMinutes.clear();
     }
 
     SimulatedMachine *machine;
     PowerSensorReader reader;
     MinuteFolder folder;
     SessionTracker sessions;
+    SimulatedProcessSource processes;
+    AppEnergyTracker apps;
+    int sinceProcesses = 0;
     HistoryDatabase database;
     std::vector<MinuteRecord> pending;
     std::vector<SessionRecord> ended_;
+    std::vector<AppMinuteRecord> appMinutes;
 };
 
 QByteArray contents(const QString &path)
@@ -112,6 +128,22 @@ private slots:
                 QVERIFY2(std::fabs(*storedWh - expectedWh(quantity)) <= 0.001 * expectedWh(quantity) + 1e-3,
                          qPrintable(QStringLiteral("day %1, quantity %2: stored %3 Wh, machine %4 Wh").arg(day).arg(quantity).arg(*storedWh).arg(expectedWh(quantity))));
             }
+        }
+        // The applications, the system and this program add up to the chip's energy, day by day,
+        // and each application's stored energy is what the kernel measured for it.
+        for (const PeriodEnergy &day : days) {
+            double chipWh = 0;
+            for (const std::optional<double> &domainWh : day.energy.chipWh)
+                chipWh += domainWh.value_or(0.0);
+            const AppEnergyList apps = history.database.applications(day.start, day.start + 86'400);
+            QCOMPARE(apps.method, AttributionMethod::measured);
+            QVERIFY2(std::fabs(*apps.totalJ() / 3600.0 - chipWh) <= 0.01 * chipWh,
+                     qPrintable(QStringLiteral("applications %1 Wh, chip %2 Wh").arg(*apps.totalJ() / 3600.0).arg(chipWh)));
+            const auto has = [&](AppEnergy::Kind kind) {
+                return std::any_of(apps.apps.begin(), apps.apps.end(), [&](const AppEnergy &app) { return app.kind == kind && app.energyJ > 0.0; });
+            };
+            QVERIFY(has(AppEnergy::Kind::others) && has(AppEnergy::Kind::self) && has(AppEnergy::Kind::rest));
+            QVERIFY(std::fabs(apps.coveredS - day.energy.coveredS) <= 60); // sampled every 5 s, stored in whole seconds
         }
         // The battery's energy in and out is what passed through it: its net is the adapter's surplus.
         const double batteryNetWh = *days[0].energy.batteryInWh - *days[0].energy.batteryOutWh;
@@ -199,8 +231,31 @@ private slots:
             minute.batteryPercent = i / 2;
             minutes.push_back(minute);
         }
+        std::vector<AppMinuteRecord> appMinutes;
+        for (const MinuteRecord &minute : minutes) {
+            const auto line = [](AppEnergy::Kind kind, const char *group, std::optional<double> energyJ, AttributionMethod method) {
+                return AppEnergy{kind, QString::fromLatin1(group), QStringLiteral("Name"), {}, energyJ, 0.5, 60, method};
+            };
+            appMinutes.push_back({minute.start, AppEnergyList{{line(AppEnergy::Kind::application, "a", 1.5, AttributionMethod::measured),
+                                                               line(AppEnergy::Kind::others, "", 2, AttributionMethod::measured)},
+                                                              minute.start < 7200 + 3600 ? 60.0 : 30.0, AttributionMethod::measured}});
+            if (minute.start == 7200 + 60 * 60)
+                appMinutes.back().apps.apps.push_back(line(AppEnergy::Kind::application, "b", std::nullopt, AttributionMethod::cpuTime));
+        }
+        QVERIFY(database.writeApplications(appMinutes));
+        QVERIFY(database.writeApplications({appMinutes.front()})); // a flushed minute continued adds up
         QVERIFY(database.write(minutes, {}, {}, 7200 + 180 * 60));
         QVERIFY(database.write({}, {}, {}, 7200 + 90 * 60 + HistoryDatabase::kMinuteRetentionS + 3600));
+        // The hours the minutes became hold the same applications' energy and time.
+        const AppEnergyList apps = database.applications(0, kAllTime);
+        QCOMPARE(apps.apps.size(), 3u);
+        QCOMPARE(*apps.apps[0].energyJ, 360.0 + 2.0); // others
+        QCOMPARE(*apps.apps[1].energyJ, 270.0 + 1.5);
+        QVERIFY(!apps.apps[2].energyJ);
+        QCOMPARE(apps.apps[2].method, AttributionMethod::cpuTime);
+        QCOMPARE(apps.method, AttributionMethod::cpuTime);
+        QCOMPARE(apps.coveredS, 3600.0 + 2 * 1800.0);
+        QCOMPARE(database.applications(7200, 7200 + 3600).coveredS, 3600.0);
         const std::vector<PeriodEnergy> rows = database.energy(0, kAllTime, HistoryPeriod::minute);
         QCOMPARE(rows.size(), 2u + 60u); // two hours rolled up, the third hour's minutes kept
         QCOMPARE(rows[0].start, 7200);

@@ -1,0 +1,204 @@
+#include "history/application_tables.h"
+
+#include "history/history_database.h"
+
+#include <QHash>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QVariant>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace ferrow {
+
+namespace {
+
+// Whole millijoules and milliseconds keep a row small: the minutes of a month are most of the file.
+qlonglong milli(double value)
+{
+    return static_cast<qlonglong>(std::llround(value * 1000.0));
+}
+
+// The key under which the lines that are no application are kept: none can be a path or an id.
+QString storedKey(const AppEnergy &app)
+{
+    switch (app.kind) {
+    case AppEnergy::Kind::others:
+        return QStringLiteral(":others");
+    case AppEnergy::Kind::rest:
+        return QStringLiteral(":rest");
+    case AppEnergy::Kind::application:
+    case AppEnergy::Kind::self:
+        break;
+    }
+    return app.group;
+}
+
+std::optional<AppEnergy::Kind> kindFromStored(int value)
+{
+    if (value < static_cast<int>(AppEnergy::Kind::application) || value > static_cast<int>(AppEnergy::Kind::rest))
+        return std::nullopt;
+    return static_cast<AppEnergy::Kind>(value);
+}
+
+AttributionMethod methodFromStored(int value)
+{
+    return std::clamp(static_cast<AttributionMethod>(value), AttributionMethod::measured, AttributionMethod::cpuTime);
+}
+
+} // namespace
+
+QString applicationPeriodTable(const char *name)
+{
+    return QStringLiteral("CREATE TABLE IF NOT EXISTS %1 (start INTEGER NOT NULL, app_id INTEGER NOT NULL REFERENCES applications(id), "
+                          "energy_mj INTEGER, cpu_ms INTEGER NOT NULL, covered_s INTEGER NOT NULL, method INTEGER NOT NULL, "
+                          "PRIMARY KEY (start, app_id)) WITHOUT ROWID")
+        .arg(QLatin1String(name));
+}
+
+bool rollUpApplications(QSqlQuery &query, UnixSeconds cutoff)
+{
+    // An hour's line per application; its time is the hour's covered time, which every line of a
+    // minute shares.
+    const bool rolled = query.prepare(QStringLiteral(
+                            "INSERT INTO app_hours SELECT (start / 3600) * 3600 AS hour, app_id, sum(energy_mj), sum(cpu_ms), 0, max(method) "
+                            "FROM app_minutes WHERE start < ? GROUP BY hour, app_id "
+                            "ON CONFLICT (start, app_id) DO UPDATE SET energy_mj = coalesce(energy_mj + excluded.energy_mj, energy_mj, excluded.energy_mj), "
+                            "cpu_ms = cpu_ms + excluded.cpu_ms, method = max(method, excluded.method)"))
+        && (query.addBindValue(static_cast<qlonglong>(cutoff)), query.exec());
+    if (!rolled)
+        return false;
+    query.prepare(QStringLiteral("UPDATE app_hours SET covered_s = covered_s + (SELECT sum(c) FROM (SELECT max(covered_s) AS c FROM app_minutes m "
+                                 "WHERE m.start < ? AND m.start / 3600 * 3600 = app_hours.start GROUP BY m.start)) "
+                                 "WHERE start IN (SELECT DISTINCT start / 3600 * 3600 FROM app_minutes WHERE start < ?)"));
+    query.addBindValue(static_cast<qlonglong>(cutoff));
+    query.addBindValue(static_cast<qlonglong>(cutoff));
+    if (!query.exec())
+        return false;
+    query.prepare(QStringLiteral("DELETE FROM app_minutes WHERE start < ?"));
+    query.addBindValue(static_cast<qlonglong>(cutoff));
+    return query.exec();
+}
+
+bool HistoryDatabase::writeApplications(const std::vector<AppMinuteRecord> &minutes)
+{
+    if (!isOpen())
+        return false;
+    if (minutes.empty())
+        return true;
+    QSqlDatabase db = QSqlDatabase::database(m_connection, false);
+    if (!db.transaction())
+        return fail(QStringLiteral("cannot write %1").arg(m_path), db.lastError().text());
+    QSqlQuery name(db);
+    QSqlQuery row(db);
+    const auto abandon = [&](const QSqlQuery &failed) {
+        const QString why = failed.lastError().text();
+        db.rollback();
+        return fail(QStringLiteral("cannot write %1").arg(m_path), why);
+    };
+    if (!name.prepare(QStringLiteral("INSERT INTO applications (app, name, icon, kind) VALUES (?, ?, ?, ?) "
+                                     "ON CONFLICT (app) DO UPDATE SET name = excluded.name, icon = excluded.icon, kind = excluded.kind RETURNING id")))
+        return abandon(name);
+    // A minute flushed early (sleep, quit) and continued adds up.
+    if (!row.prepare(QStringLiteral("INSERT INTO app_minutes VALUES (?, ?, ?, ?, ?, ?) ON CONFLICT (start, app_id) DO UPDATE SET "
+                                    "energy_mj = coalesce(energy_mj + excluded.energy_mj, energy_mj, excluded.energy_mj), "
+                                    "cpu_ms = cpu_ms + excluded.cpu_ms, covered_s = min(60, covered_s + excluded.covered_s), "
+                                    "method = max(method, excluded.method)")))
+        return abandon(row);
+    QHash<QString, qlonglong> ids;
+    for (const AppMinuteRecord &minute : minutes) {
+        const auto coveredS = static_cast<qlonglong>(std::lround(std::clamp(minute.apps.coveredS, 0.0, 60.0)));
+        for (const AppEnergy &app : minute.apps.apps) {
+            const QString key = storedKey(app);
+            if (!ids.contains(key)) {
+                name.addBindValue(key);
+                name.addBindValue(app.name);
+                name.addBindValue(app.icon);
+                name.addBindValue(static_cast<int>(app.kind));
+                if (!name.exec() || !name.next())
+                    return abandon(name);
+                ids.insert(key, name.value(0).toLongLong());
+                name.finish();
+            }
+            row.addBindValue(static_cast<qlonglong>(minute.start));
+            row.addBindValue(ids.value(key));
+            row.addBindValue(app.energyJ ? QVariant(milli(*app.energyJ)) : QVariant());
+            row.addBindValue(milli(app.cpuTimeS));
+            row.addBindValue(coveredS);
+            row.addBindValue(static_cast<int>(app.method));
+            if (!row.exec())
+                return abandon(row);
+        }
+    }
+    if (!db.commit())
+        return fail(QStringLiteral("cannot write %1").arg(m_path), db.lastError().text());
+    return true;
+}
+
+AppEnergyList HistoryDatabase::applications(UnixSeconds from, UnixSeconds to, QString *error) const
+{
+    AppEnergyList list;
+    if (!readable(error))
+        return list;
+    QSqlQuery query(QSqlDatabase::database(m_connection, false));
+    query.setForwardOnly(true);
+    const QString rows = QStringLiteral("SELECT start, app_id, energy_mj, cpu_ms, covered_s, method FROM %1 WHERE start >= ? AND start < ?");
+    if (!query.prepare(QStringLiteral("SELECT r.start, a.app, a.name, a.icon, a.kind, r.energy_mj, r.cpu_ms, r.covered_s, r.method "
+                                      "FROM (%1 UNION ALL %2) r JOIN applications a ON a.id = r.app_id")
+                           .arg(rows.arg(QStringLiteral("app_minutes")), rows.arg(QStringLiteral("app_hours"))))) {
+        readFailed(query, error);
+        return list;
+    }
+    for (int table = 0; table < 2; ++table) {
+        query.addBindValue(static_cast<qlonglong>(from));
+        query.addBindValue(static_cast<qlonglong>(to));
+    }
+    if (!query.exec()) {
+        readFailed(query, error);
+        return list;
+    }
+    std::map<QString, AppEnergy> apps;
+    std::map<UnixSeconds, double> coveredByStart; // every line of a period carries its time
+    std::optional<AttributionMethod> weakest;
+    while (query.next()) {
+        const std::optional<AppEnergy::Kind> kind = kindFromStored(query.value(4).toInt());
+        if (!kind)
+            continue; // written by a newer Ferrow: left out rather than misnamed
+        const QString key = query.value(1).toString();
+        const AttributionMethod method = methodFromStored(query.value(8).toInt());
+        auto [entry, added] = apps.try_emplace(key);
+        AppEnergy &app = entry->second;
+        if (added) {
+            app.kind = *kind;
+            if (*kind == AppEnergy::Kind::application || *kind == AppEnergy::Kind::self)
+                app.group = key;
+            app.name = query.value(2).toString();
+            app.icon = query.value(3).toString();
+            app.method = method;
+        }
+        if (!query.value(5).isNull())
+            app.energyJ = app.energyJ.value_or(0.0) + static_cast<double>(query.value(5).toLongLong()) / 1000.0;
+        app.cpuTimeS += static_cast<double>(query.value(6).toLongLong()) / 1000.0;
+        app.method = std::max(app.method, method);
+        weakest = std::max(weakest.value_or(method), method);
+        double &covered = coveredByStart[query.value(0).toLongLong()];
+        covered = std::max(covered, query.value(7).toDouble());
+    }
+    if (query.lastError().isValid())
+        readFailed(query, error);
+    for (const auto &[start, coveredS] : coveredByStart)
+        list.coveredS += coveredS;
+    list.method = weakest.value_or(AttributionMethod::cpuTime);
+    list.apps.reserve(apps.size());
+    for (auto &[key, app] : apps) {
+        app.coveredS = list.coveredS;
+        list.apps.push_back(std::move(app));
+    }
+    sortMostFirst(list.apps);
+    return list;
+}
+
+} // namespace ferrow
