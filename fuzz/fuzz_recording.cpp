@@ -1,4 +1,4 @@
-// The recorded-machine loader, then one reading of what it loaded. The input is machine.json,
+// The recorded-machine loader, then one reading of what it loaded and its process frames in turn. The input is machine.json,
 // optionally followed by a line "--battery.plist--" and the battery's property list.
 #include "platform/recorded/recorded_machine.h"
 #include "platform/recorded/recording_format.h"
@@ -23,7 +23,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             __builtin_trap(); // the message names the file
         return 0;
     }
-    ferrow::PowerSensorReader reader{std::make_unique<ferrow::RecordedMachine>(std::move(*recording))};
+    auto recorded = std::make_unique<ferrow::RecordedMachine>(std::move(*recording));
+    if (std::unique_ptr<ferrow::ProcessSource> processes = recorded->createProcessSource()) {
+        for (int i = 0; i < 3; ++i)
+            processes->sample();
+    }
+    ferrow::PowerSensorReader reader{std::move(recorded)};
     for (int i = 0; i < 3; ++i)
         reader.read();
     return 0;

@@ -25,6 +25,7 @@ using namespace ferrow;
 using namespace ferrow::testing;
 
 Q_DECLARE_METATYPE(ferrow::PropertyValue)
+Q_DECLARE_METATYPE(std::vector<ferrow::ProcessFrame>)
 
 namespace {
 
@@ -110,6 +111,37 @@ Subject fixtureSubject(const QString &folder)
     }
     subject.fixtureMachine[u"smc"] = keys;
     return subject;
+}
+
+// Gives its frames in turn, then nothing.
+class ScriptedProcessSource final : public ProcessSource {
+public:
+    explicit ScriptedProcessSource(std::vector<ProcessFrame> frames) : m_frames(std::move(frames)) {}
+    std::optional<ProcessFrame> sample() override
+    {
+        return m_next < m_frames.size() ? std::optional(m_frames[m_next++]) : std::nullopt;
+    }
+
+private:
+    std::vector<ProcessFrame> m_frames;
+    std::size_t m_next = 0;
+};
+
+// Every field of a frame, figures to the last bit, for a comparison that shows what differs.
+QString described(const std::optional<ProcessFrame> &frame)
+{
+    if (!frame)
+        return QStringLiteral("no frame");
+    const auto number = [](std::optional<double> value) { return value ? QString::number(*value, 'g', 17) : QStringLiteral("absent"); };
+    QStringList lines{QStringList{number(frame->uptimeS), number(frame->cpuBusyS), number(frame->cpuTotalS),
+                                  frame->includesOtherUsers ? QStringLiteral("others") : QStringLiteral("own")}
+                          .join(u' ')};
+    for (const ProcessSample &process : frame->processes)
+        lines << QStringList{QString::number(process.pid), number(process.startedS), u'[' + process.group + u']', u'[' + process.name + u']',
+                             u'[' + process.icon + u']', number(process.cpuTimeS), number(process.energyJ),
+                             process.isSelf ? QStringLiteral("self") : QString()}
+                     .join(u' ');
+    return lines.join(u'\n');
 }
 
 } // namespace
@@ -287,7 +319,7 @@ private slots:
 
         QTemporaryDir folder;
         QString error;
-        QVERIFY2(writeRecording(*subject.machine, subject.description, subject.waitOneSecond, folder.path(), &error), qPrintable(error));
+        QVERIFY2(writeRecording(*subject.machine, nullptr, subject.description, subject.waitOneSecond, folder.path(), &error), qPrintable(error));
         std::optional<Recording> written = loadRecording(folder.path(), &error);
         QVERIFY2(written, qPrintable(error));
         QCOMPARE(written->description, subject.description);
@@ -306,6 +338,41 @@ private slots:
         const QString mismatches = jsonMismatches(snapshotToJson(replayed), snapshotToJson(subject.expected));
         QVERIFY2(mismatches.isEmpty(), qPrintable(mismatches));
         QVERIFY2(replayed == subject.expected, "a figure differs by less than 1e-5");
+    }
+
+    // Process frames as the Mac's recorder writes them come back from the replay unchanged, the last
+    // one repeating; a recording without any gives no source.
+    void processFrames_data()
+    {
+        QTest::addColumn<std::vector<ProcessFrame>>("frames");
+        const QString app = QStringLiteral("/Applications/Caf\u00e9 \"Bar\"\n.app");
+        ProcessSample measured{412, 0.1 + 0.2, app, QStringLiteral("Caf\u00e9 \"Bar\" \u65e5\u672c \U0001F50B \\ \t"), app, 12.000000001, 1e-9 * 3440000001, false};
+        ProcessSample idle{99998, 86000.5, QStringLiteral("trustd"), QStringLiteral("trustd"), QString(), 0, 0.0, false};
+        ProcessSample self{7, 86399.25, QStringLiteral("ferrow"), QStringLiteral("Ferrow"), QStringLiteral("ferrow"), 1.5, std::nullopt, true};
+        ProcessFrame first{86400.123456789, {measured, idle, self}, std::nullopt, std::nullopt, false};
+        measured.cpuTimeS += 0.75;
+        measured.energyJ = *measured.energyJ + 2.5;
+        ProcessFrame second{86401.123456789, {measured, self}, 1234.5, 9876.25, true};
+        QTest::newRow("two frames") << std::vector<ProcessFrame>{first, second};
+        QTest::newRow("nothing read") << std::vector<ProcessFrame>{};
+    }
+
+    void processFrames()
+    {
+        QFETCH(std::vector<ProcessFrame>, frames);
+        QString error;
+        std::optional<Recording> fixture = loadRecording(kFixtures + QStringLiteral("desktop-26"), &error);
+        QVERIFY2(fixture, qPrintable(error));
+        RecordedMachine machine(std::move(*fixture));
+        ScriptedProcessSource source(frames);
+        QTemporaryDir folder;
+        QVERIFY2(writeRecording(machine, &source, QStringLiteral("processes"), [] {}, folder.path(), &error), qPrintable(error));
+        std::optional<Recording> written = loadRecording(folder.path(), &error);
+        QVERIFY2(written, qPrintable(error));
+        const std::unique_ptr<ProcessSource> replay = RecordedMachine(std::move(*written)).createProcessSource();
+        QCOMPARE(replay != nullptr, !frames.empty());
+        for (std::size_t frame = 0; replay && frame <= frames.size(); ++frame)
+            QCOMPARE(described(replay->sample()), described(frames[std::min(frame, frames.size() - 1)]));
     }
 
     void commandLineReader_data()

@@ -3,9 +3,8 @@
 #include "platform/macos/iokit_smc_client.h"
 #include "platform/macos/ioreport_energy_source.h"
 #include "platform/macos/mac_system.h"
+#include "platform/macos/mach_time.h"
 #include "sources/mac_source_diagnosis.h"
-
-#include <mach/mach_time.h>
 
 namespace ferrow {
 
@@ -50,13 +49,7 @@ Diagnosis MacMachine::diagnose()
 
 double MacMachine::uptimeSeconds() const
 {
-    static const mach_timebase_info_data_t timebase = [] {
-        mach_timebase_info_data_t info{};
-        mach_timebase_info(&info);
-        return info;
-    }();
-    const long double nanoseconds = static_cast<long double>(mach_absolute_time()) * timebase.numer / timebase.denom;
-    return static_cast<double>(nanoseconds / 1e9L);
+    return machUptimeSeconds();
 }
 
 } // namespace ferrow

@@ -1,5 +1,6 @@
 #include "platform/native_machine.h"
 
+#include "platform/macos/libproc_process_source.h"
 #include "platform/macos/mac_machine.h"
 #include "platform/macos/mac_system.h"
 #include "platform/recorded/recording_writer.h"
@@ -11,7 +12,11 @@ namespace ferrow {
 
 std::optional<NativeMachine> openThisMachine()
 {
-    return NativeMachine{std::make_unique<PowerSensorReader>(std::make_unique<MacMachine>()), QStringLiteral("this Mac")};
+    NativeMachine machine;
+    machine.reader = std::make_unique<PowerSensorReader>(std::make_unique<MacMachine>());
+    machine.description = QStringLiteral("this Mac");
+    machine.processes = std::make_unique<LibprocProcessSource>();
+    return machine;
 }
 
 std::optional<NativeMachine> openCopiedMachine(const QString &root, QString *error)
@@ -36,7 +41,8 @@ std::optional<Diagnosis> diagnoseCopiedMachine(const QString &root, QString *err
 bool recordThisMachine(const QString &folder, QString *error)
 {
     MacMachine machine;
-    return writeRecording(machine, MacMachine::modelAndSystem(), [] { QThread::sleep(1); }, folder, error);
+    LibprocProcessSource processes;
+    return writeRecording(machine, &processes, MacMachine::modelAndSystem(), [] { QThread::sleep(1); }, folder, error);
 }
 
 QString recordingSourcePrefix()

@@ -45,6 +45,20 @@ private:
     bool m_hasFrames;
 };
 
+class RecordedProcessSource final : public ProcessSource {
+public:
+    explicit RecordedProcessSource(std::vector<ProcessFrame> frames) : m_frames(std::move(frames)) {}
+    std::optional<ProcessFrame> sample() override
+    {
+        m_frame = m_frame ? std::min(*m_frame + 1, m_frames.size() - 1) : 0;
+        return m_frames[*m_frame];
+    }
+
+private:
+    std::vector<ProcessFrame> m_frames; // never empty
+    std::optional<std::size_t> m_frame;
+};
+
 } // namespace
 
 std::optional<Recording> loadRecording(const QString &folder, QString *error)
@@ -97,6 +111,13 @@ std::unique_ptr<SMCUserClient> RecordedMachine::createSMCUserClient()
 std::unique_ptr<EnergyReportSource> RecordedMachine::createEnergyReportSource()
 {
     return std::make_unique<RecordedEnergySource>(*this, !m_recording.energyFrames.empty());
+}
+
+std::unique_ptr<ProcessSource> RecordedMachine::createProcessSource() const
+{
+    if (m_recording.processFrames.empty())
+        return nullptr;
+    return std::make_unique<RecordedProcessSource>(m_recording.processFrames);
 }
 
 std::optional<PropertyDictionary> RecordedMachine::registryProperties(const QString &className)

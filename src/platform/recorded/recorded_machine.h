@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/process_sample.h"
 #include "platform/common/in_memory_smc.h"
 #include "platform/common/self_contained_machine.h"
 #include "platform/recorded/recording_format.h"
@@ -7,6 +8,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -20,7 +22,8 @@ std::optional<Recording> loadRecording(const QString &folder, QString *error);
 std::optional<PowerSnapshot> readRecordedSnapshot(const QString &folder, QString *error);
 
 // Replays a recording: the SMC, the battery service, power sources and profiler answer as recorded;
-// each chip sample steps to the next energy frame, whose uptime the clock then reports.
+// each chip sample steps to the next energy frame, whose uptime the clock then reports; the
+// processes step through their own frames.
 class RecordedMachine final : public SelfContainedMachine, public Clock {
 public:
     explicit RecordedMachine(Recording recording);
@@ -39,6 +42,9 @@ public:
 
     // The next energy frame (the last one repeats once the recording runs out).
     std::optional<std::vector<EnergyChannelSample>> nextEnergyFrame();
+    // A source that gives each process frame in turn, the last one repeating; nothing where the
+    // recording has none.
+    std::unique_ptr<ProcessSource> createProcessSource() const;
 
 private:
     Recording m_recording;

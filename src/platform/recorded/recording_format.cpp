@@ -24,6 +24,11 @@ const QString kUptime = QStringLiteral("uptime");
 const QString kChannels = QStringLiteral("channels");
 const QString kExitStatus = QStringLiteral("exitStatus");
 const QString kOutput = QStringLiteral("output");
+// The members of a process frame (uptime as above).
+const QString kProcessList = QStringLiteral("list");
+const QString kIncludesOtherUsers = QStringLiteral("includesOtherUsers");
+const QString kCpuBusy = QStringLiteral("cpuBusy");
+const QString kCpuTotal = QStringLiteral("cpuTotal");
 
 bool fail(Problem &problem, QString place, QString text)
 {
@@ -55,6 +60,54 @@ bool decodeEnergyFrame(const QJsonValue &json, const QString &place, Recording::
             return fail(problem, QStringLiteral("%1.%2[%3]").arg(place, kChannels).arg(c),
                         QStringLiteral("expected [group, name, unit, whole-number counter]"));
         decoded.channels.push_back(std::move(*channel));
+    }
+    return true;
+}
+
+// One process sample: seconds since boot, the processor's counters where the system keeps them, and
+// every process.
+QJsonObject encodeProcessFrame(const ProcessFrame &frame)
+{
+    QJsonArray processes;
+    for (const ProcessSample &process : frame.processes)
+        processes.append(encodeProcess(process));
+    QJsonObject json{{kUptime, frame.uptimeS}, {kProcessList, processes}};
+    if (frame.includesOtherUsers)
+        json.insert(kIncludesOtherUsers, true);
+    if (frame.cpuBusyS)
+        json.insert(kCpuBusy, *frame.cpuBusyS);
+    if (frame.cpuTotalS)
+        json.insert(kCpuTotal, *frame.cpuTotalS);
+    return json;
+}
+
+bool decodeProcessFrame(const QJsonValue &json, const QString &place, ProcessFrame &decoded, Problem &problem)
+{
+    const QJsonObject frame = json.toObject();
+    if (!frame.value(kUptime).isDouble())
+        return fail(problem, place + u'.' + kUptime, QStringLiteral("expected seconds since boot"));
+    if (!frame.value(kProcessList).isArray())
+        return fail(problem, place + u'.' + kProcessList, QStringLiteral("expected a list of processes"));
+    const QJsonValue others = frame.value(kIncludesOtherUsers);
+    if (!others.isUndefined() && !others.isBool())
+        return fail(problem, place + u'.' + kIncludesOtherUsers, QStringLiteral("expected true or false"));
+    for (const QString &key : {kCpuBusy, kCpuTotal}) {
+        const QJsonValue seconds = frame.value(key);
+        if (!seconds.isUndefined() && !(seconds.isDouble() && seconds.toDouble() >= 0))
+            return fail(problem, place + u'.' + key, QStringLiteral("expected seconds of processor time"));
+    }
+    decoded.uptimeS = frame.value(kUptime).toDouble();
+    decoded.includesOtherUsers = others.toBool(false);
+    if (frame.contains(kCpuBusy))
+        decoded.cpuBusyS = frame.value(kCpuBusy).toDouble();
+    if (frame.contains(kCpuTotal))
+        decoded.cpuTotalS = frame.value(kCpuTotal).toDouble();
+    const QJsonArray processes = frame.value(kProcessList).toArray();
+    for (qsizetype p = 0; p < processes.size(); ++p) {
+        std::optional<ProcessSample> process = decodeProcess(processes[p], QStringLiteral("%1.%2[%3]").arg(place, kProcessList).arg(p), problem);
+        if (!process)
+            return false;
+        decoded.processes.push_back(std::move(*process));
     }
     return true;
 }
@@ -141,6 +194,30 @@ bool decodeEnergy(const QJsonValue &json, const QString &key, Recording &recordi
     const QJsonArray frames = json.toArray();
     for (qsizetype f = 0; f < frames.size(); ++f) {
         if (!decodeEnergyFrame(frames[f], QStringLiteral("%1[%2]").arg(key).arg(f), recording.energyFrames.emplace_back(), problem))
+            return false;
+    }
+    return true;
+}
+
+QJsonValue encodeProcesses(const Recording &recording)
+{
+    if (recording.processFrames.empty())
+        return QJsonValue::Undefined;
+    QJsonArray frames;
+    for (const ProcessFrame &frame : recording.processFrames)
+        frames.append(encodeProcessFrame(frame));
+    return frames;
+}
+
+bool decodeProcesses(const QJsonValue &json, const QString &key, Recording &recording, Problem &problem)
+{
+    if (json.isUndefined())
+        return true;
+    if (!json.isArray())
+        return fail(problem, key, QStringLiteral("expected a list of frames"));
+    const QJsonArray frames = json.toArray();
+    for (qsizetype f = 0; f < frames.size(); ++f) {
+        if (!decodeProcessFrame(frames[f], QStringLiteral("%1[%2]").arg(key).arg(f), recording.processFrames.emplace_back(), problem))
             return false;
     }
     return true;
@@ -235,6 +312,7 @@ const std::array kMembers{
     Member{QStringLiteral("adapterDetails"), encodeAdapterDetails, decodeAdapterDetails},
     Member{QStringLiteral("smc"), encodeSMC, decodeSMC},
     Member{QStringLiteral("energy"), encodeEnergy, decodeEnergy},
+    Member{QStringLiteral("processes"), encodeProcesses, decodeProcesses},
     Member{QStringLiteral("powerSources"), encodePowerSources, decodePowerSources},
     Member{QStringLiteral("systemProfiler"), encodeProfiler, decodeProfiler},
     Member{QStringLiteral("preferences"), encodePreferences, decodePreferences},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/process_sample.h"
 #include "platform/common/in_memory_smc.h"
 #include "sources/platform_interfaces.h"
 
@@ -26,6 +27,8 @@ struct Recording {
     std::vector<std::pair<std::string, InMemorySMC::Entry>> smcKeys;
     bool adapterDetails = false;
     std::vector<EnergyFrame> energyFrames;
+    // The user's processes, sampled beside the energy frames.
+    std::vector<ProcessFrame> processFrames;
     std::optional<PropertyList> powerSources;
     std::optional<CommandResult> systemProfiler;
     // The battery's stored lifetime extremes, by their preference keys, as the store wrote them.

@@ -11,11 +11,25 @@ namespace {
 const QString kType = QStringLiteral("type");
 const QString kBytes = QStringLiteral("bytes");
 const QString kSize = QStringLiteral("size");
+// The members of a process.
+const QString kPid = QStringLiteral("pid");
+const QString kStarted = QStringLiteral("started");
+const QString kGroup = QStringLiteral("group");
+const QString kName = QStringLiteral("name");
+const QString kIcon = QStringLiteral("icon");
+const QString kCpuTime = QStringLiteral("cpuTime");
+const QString kEnergy = QStringLiteral("energy");
+const QString kSelf = QStringLiteral("self");
 
 std::nullopt_t refuse(Problem &problem, QString place, QString text)
 {
     problem = {std::move(place), std::move(text)};
     return std::nullopt;
+}
+
+bool isSeconds(const QJsonValue &json)
+{
+    return json.isDouble() && json.toDouble() >= 0;
 }
 
 } // namespace
@@ -148,6 +162,58 @@ std::optional<EnergyChannelSample> decodeEnergyChannel(const QJsonValue &json)
         return std::nullopt;
     const auto text = [&](qsizetype i) { return channel[i].isString() ? std::optional(channel[i].toString()) : std::nullopt; };
     return EnergyChannelSample{text(0), text(1), text(2), counter};
+}
+
+QJsonObject encodeProcess(const ProcessSample &process)
+{
+    QJsonObject json{{kPid, static_cast<qint64>(process.pid)},
+                     {kStarted, process.startedS},
+                     {kGroup, process.group},
+                     {kName, process.name},
+                     {kCpuTime, process.cpuTimeS}};
+    if (!process.icon.isEmpty())
+        json.insert(kIcon, process.icon);
+    if (process.energyJ)
+        json.insert(kEnergy, *process.energyJ);
+    if (process.isSelf)
+        json.insert(kSelf, true);
+    return json;
+}
+
+std::optional<ProcessSample> decodeProcess(const QJsonValue &json, const QString &place, Problem &problem)
+{
+    const QJsonObject object = json.toObject();
+    const auto member = [&](const QString &key) { return object.value(key); };
+    const auto at = [&](const QString &key) { return place + u'.' + key; };
+    if (!json.isObject())
+        return refuse(problem, place, QStringLiteral("expected a process"));
+    if (!isWholeNumber(member(kPid), 0, std::numeric_limits<std::int32_t>::max()))
+        return refuse(problem, at(kPid), QStringLiteral("expected a whole number from 0 to 2147483647"));
+    if (!isSeconds(member(kStarted)))
+        return refuse(problem, at(kStarted), QStringLiteral("expected seconds since boot"));
+    if (!member(kGroup).isString() || member(kGroup).toString().isEmpty())
+        return refuse(problem, at(kGroup), QStringLiteral("expected the group's text"));
+    if (!member(kName).isString())
+        return refuse(problem, at(kName), QStringLiteral("expected the name's text"));
+    if (!member(kIcon).isUndefined() && !member(kIcon).isString())
+        return refuse(problem, at(kIcon), QStringLiteral("expected the icon's text"));
+    if (!isSeconds(member(kCpuTime)))
+        return refuse(problem, at(kCpuTime), QStringLiteral("expected seconds of CPU time"));
+    if (!member(kEnergy).isUndefined() && !(member(kEnergy).isDouble() && member(kEnergy).toDouble() >= 0))
+        return refuse(problem, at(kEnergy), QStringLiteral("expected joules"));
+    if (!member(kSelf).isUndefined() && !member(kSelf).isBool())
+        return refuse(problem, at(kSelf), QStringLiteral("expected true or false"));
+    ProcessSample process;
+    process.pid = member(kPid).toInteger();
+    process.startedS = member(kStarted).toDouble();
+    process.group = member(kGroup).toString();
+    process.name = member(kName).toString();
+    process.icon = member(kIcon).toString();
+    process.cpuTimeS = member(kCpuTime).toDouble();
+    if (member(kEnergy).isDouble())
+        process.energyJ = member(kEnergy).toDouble();
+    process.isSelf = member(kSelf).toBool(false);
+    return process;
 }
 
 } // namespace ferrow::RecordingValues

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/process_sample.h"
 #include "platform/common/in_memory_smc.h"
 #include "sources/platform_interfaces.h"
 
@@ -43,5 +44,10 @@ std::optional<InMemorySMC::Entry> decodeSMCEntry(const QJsonValue &json, const Q
 // An energy channel as [group, name, unit, counter]; a text the report left out is null.
 QJsonArray encodeEnergyChannel(const EnergyChannelSample &channel);
 std::optional<EnergyChannelSample> decodeEnergyChannel(const QJsonValue &json);
+
+// A process as {"pid", "started", "group", "name", "icon", "cpuTime", "energy", "self"}; an empty icon,
+// an absent energy and self = false are left out.
+QJsonObject encodeProcess(const ProcessSample &process);
+std::optional<ProcessSample> decodeProcess(const QJsonValue &json, const QString &place, Problem &problem);
 
 } // namespace ferrow::RecordingValues

@@ -31,21 +31,25 @@ std::vector<std::pair<std::string, InMemorySMC::Entry>> smcKeys(MachinePlatform 
     return keys;
 }
 
-std::vector<Recording::EnergyFrame> energyFrames(MachinePlatform &machine, const std::function<void()> &waitOneSecond)
+// Two samples a second apart, the processes' taken right after the energy's.
+void sampleFrames(MachinePlatform &machine, ProcessSource *processes, const std::function<void()> &waitOneSecond, Recording &recording)
 {
-    std::vector<Recording::EnergyFrame> frames;
-    std::unique_ptr<EnergyReportSource> source = machine.createEnergyReportSource();
-    if (!source || !source->subscribe())
-        return frames;
-    for (int frame = 0; frame < 2; ++frame) {
+    std::unique_ptr<EnergyReportSource> energy = machine.createEnergyReportSource();
+    bool energyFlows = energy && energy->subscribe();
+    for (int frame = 0; frame < 2 && (energyFlows || processes); ++frame) {
         if (frame > 0)
             waitOneSecond();
-        std::optional<std::vector<EnergyChannelSample>> sample = source->sample();
-        if (!sample)
-            break;
-        frames.push_back({machine.clock().uptimeSeconds(), std::move(*sample)});
+        if (energyFlows) {
+            std::optional<std::vector<EnergyChannelSample>> sample = energy->sample();
+            if (sample)
+                recording.energyFrames.push_back({machine.clock().uptimeSeconds(), std::move(*sample)});
+            energyFlows = sample.has_value();
+        }
+        if (processes) {
+            if (std::optional<ProcessFrame> sample = processes->sample())
+                recording.processFrames.push_back(std::move(*sample));
+        }
     }
-    return frames;
 }
 
 std::vector<std::pair<QString, QByteArray>> storedEntries(MachinePlatform &machine, const std::optional<PropertyDictionary> &battery)
@@ -64,7 +68,7 @@ std::vector<std::pair<QString, QByteArray>> storedEntries(MachinePlatform &machi
 
 // Asked in the order recordings have always been made in: a machine that moves on while it is recorded (the
 // simulated one) gives the answers of the same moments.
-Recording capture(MachinePlatform &machine, const QString &description, const std::function<void()> &waitOneSecond)
+Recording capture(MachinePlatform &machine, ProcessSource *processes, const QString &description, const std::function<void()> &waitOneSecond)
 {
     Recording recording;
     recording.description = description;
@@ -72,7 +76,7 @@ Recording capture(MachinePlatform &machine, const QString &description, const st
     recording.osMajorVersion = machine.systemInfo().operatingSystemMajorVersion();
     recording.adapterDetails = machine.systemInfo().hasExternalPowerAdapterDetails();
     recording.smcKeys = smcKeys(machine);
-    recording.energyFrames = energyFrames(machine, waitOneSecond);
+    sampleFrames(machine, processes, waitOneSecond, recording);
     recording.powerSources = machine.powerSources().powerSourceDescriptions();
     recording.systemProfiler = machine.commandRunner().run(MacNames::systemProfiler, MacNames::systemProfilerArguments);
     recording.preferences = storedEntries(machine, recording.battery);
@@ -90,8 +94,8 @@ bool save(const QString &path, const QByteArray &contents, QString *error)
 
 } // namespace
 
-bool writeRecording(MachinePlatform &machine, const QString &description, const std::function<void()> &waitOneSecond,
-                    const QString &folder, QString *error)
+bool writeRecording(MachinePlatform &machine, ProcessSource *processes, const QString &description,
+                    const std::function<void()> &waitOneSecond, const QString &folder, QString *error)
 {
     QString ignored;
     QString &message = error ? *error : ignored;
@@ -100,7 +104,7 @@ bool writeRecording(MachinePlatform &machine, const QString &description, const 
         return false;
     }
     const QDir directory(folder);
-    const RecordingFiles files = encodeRecording(capture(machine, description, waitOneSecond));
+    const RecordingFiles files = encodeRecording(capture(machine, processes, description, waitOneSecond));
     if (files.batteryPlist && !save(directory.filePath(RecordingFormat::batteryFile), *files.batteryPlist, &message))
         return false;
     return save(directory.filePath(RecordingFormat::machineFile), files.machineJson, &message);
