@@ -71,7 +71,9 @@ std::optional<MacSources> openMacSources(const MachineSource &source, QString *e
     if (!recording)
         return std::nullopt;
     const QString description = recording->description.isEmpty() ? source.recordingPath : recording->description;
-    return MacSources{std::make_unique<RecordedMachine>(std::move(*recording)), nullptr, QStringLiteral("recording of ") + description, false, false};
+    auto machine = std::make_unique<RecordedMachine>(std::move(*recording));
+    std::unique_ptr<ProcessSource> processes = machine->createProcessSource();
+    return MacSources{std::move(machine), std::move(processes), QStringLiteral("recording of ") + description, false, false};
 }
 
 OpenedMachine openedFrom(NativeMachine native)

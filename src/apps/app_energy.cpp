@@ -52,6 +52,15 @@ std::optional<Enum> valueOf(const std::array<std::pair<Enum, const char *>, N> &
 
 } // namespace
 
+AttributionMethod combinedMethod(AttributionMethod a, AttributionMethod b)
+{
+    if (a == AttributionMethod::cpuTime)
+        return b;
+    if (b == AttributionMethod::cpuTime)
+        return a;
+    return std::max(a, b);
+}
+
 const char *attributionMethodName(AttributionMethod method)
 {
     return nameOf(kMethodNames, method);

@@ -15,6 +15,10 @@ enum class AttributionMethod {
     cpuTime,     // no energy to share: CPU time alone
 };
 
+// The method of two stretches together: the less exact of those that found energy at all, so that
+// a stretch with nothing to share (the first readings, a sensor that paused) leaves the label alone.
+AttributionMethod combinedMethod(AttributionMethod a, AttributionMethod b);
+
 // "measured", "chip_share", "system_share", "cpu_time": the exports' names.
 const char *attributionMethodName(AttributionMethod method);
 std::optional<AttributionMethod> attributionMethodFromName(QStringView name);

@@ -6,11 +6,6 @@ namespace ferrow {
 
 namespace {
 
-AttributionMethod weaker(AttributionMethod a, AttributionMethod b)
-{
-    return std::max(a, b);
-}
-
 void addEnergy(std::optional<double> &total, const std::optional<double> &part)
 {
     if (part)
@@ -22,7 +17,7 @@ void addEnergy(std::optional<double> &total, const std::optional<double> &part)
 void AppEnergyLedger::add(const AttributedInterval &interval)
 {
     m_coveredS += interval.durationS;
-    m_method = m_method ? weaker(*m_method, interval.method) : interval.method;
+    m_method = m_method ? combinedMethod(*m_method, interval.method) : interval.method;
     addEnergy(m_othersJ, interval.othersJ);
     for (const AttributedInterval::Group &group : interval.groups) {
         auto found = m_groups.find(group.group);
@@ -32,7 +27,7 @@ void AppEnergyLedger::add(const AttributedInterval &interval)
         addEnergy(entry.energyJ, group.energyJ);
         entry.cpuTimeS += group.cpuTimeS;
         entry.isSelf = entry.isSelf || group.isSelf;
-        entry.method = weaker(entry.method, interval.method);
+        entry.method = combinedMethod(entry.method, interval.method);
     }
 }
 
@@ -68,7 +63,7 @@ AppEnergyList keepTop(const AppEnergyList &list, std::size_t count)
             rest = AppEnergy{AppEnergy::Kind::rest, {}, {}, {}, std::nullopt, 0.0, app.coveredS, app.method};
         addEnergy(rest->energyJ, app.energyJ);
         rest->cpuTimeS += app.cpuTimeS;
-        rest->method = weaker(rest->method, app.method);
+        rest->method = combinedMethod(rest->method, app.method);
     }
     if (rest)
         kept.apps.push_back(std::move(*rest));

@@ -83,7 +83,7 @@ std::optional<AttributedInterval> EnergyAttribution::add(const ProcessFrame &fra
     const double shareBaseS = std::max(processCpuS, busyS.value_or(0.0));
 
     std::optional<double> poolJ;
-    if (anyEnergy && measured.chipJ) {
+    if (anyEnergy) {
         interval.method = AttributionMethod::measured;
     } else if (measured.chipJ) {
         interval.method = AttributionMethod::chipShare;

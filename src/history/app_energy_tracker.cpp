@@ -42,7 +42,7 @@ std::optional<AppMinuteRecord> AppEnergyTracker::addFrame(const ProcessFrame &fr
     m_session.add(*interval);
     m_minute.add(*interval);
     m_self.coveredS += interval->durationS;
-    m_self.method = std::max(m_self.method, interval->method);
+    m_self.method = combinedMethod(m_self.method, interval->method);
     for (const AttributedInterval::Group &group : interval->groups) {
         if (!group.isSelf)
             continue;

@@ -39,7 +39,7 @@ private:
     std::optional<UnixSeconds> m_sessionStart;
     AppEnergyLedger m_minute;
     UnixSeconds m_minuteStart = 0;
-    AppEnergy m_self{AppEnergy::Kind::self, {}, {}, {}, std::nullopt, 0.0, 0.0, AttributionMethod::measured};
+    AppEnergy m_self{AppEnergy::Kind::self, {}, {}, {}, std::nullopt, 0.0, 0.0, AttributionMethod::cpuTime};
 };
 
 // Where a stored period starts at now: the session's start, local midnight, 7 or 30 days back.

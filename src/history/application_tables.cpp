@@ -44,6 +44,13 @@ std::optional<AppEnergy::Kind> kindFromStored(int value)
     return static_cast<AppEnergy::Kind>(value);
 }
 
+static_assert(static_cast<int>(AttributionMethod::cpuTime) == 3, "the stored methods' numbers are the file's");
+
+// combinedMethod() in SQL: CPU time alone (3) gives way to any method that found energy.
+const QString kCombinedMethod = QStringLiteral(
+    "CASE WHEN method = 3 THEN excluded.method WHEN excluded.method = 3 THEN method ELSE max(method, excluded.method) END");
+const QString kCombinedMethods = QStringLiteral("coalesce(max(CASE WHEN method < 3 THEN method END), 3)");
+
 AttributionMethod methodFromStored(int value)
 {
     return std::clamp(static_cast<AttributionMethod>(value), AttributionMethod::measured, AttributionMethod::cpuTime);
@@ -64,10 +71,10 @@ bool rollUpApplications(QSqlQuery &query, UnixSeconds cutoff)
     // An hour's line per application; its time is the hour's covered time, which every line of a
     // minute shares.
     const bool rolled = query.prepare(QStringLiteral(
-                            "INSERT INTO app_hours SELECT (start / 3600) * 3600 AS hour, app_id, sum(energy_mj), sum(cpu_ms), 0, max(method) "
+                            "INSERT INTO app_hours SELECT (start / 3600) * 3600 AS hour, app_id, sum(energy_mj), sum(cpu_ms), 0, %1 "
                             "FROM app_minutes WHERE start < ? GROUP BY hour, app_id "
                             "ON CONFLICT (start, app_id) DO UPDATE SET energy_mj = coalesce(energy_mj + excluded.energy_mj, energy_mj, excluded.energy_mj), "
-                            "cpu_ms = cpu_ms + excluded.cpu_ms, method = max(method, excluded.method)"))
+                            "cpu_ms = cpu_ms + excluded.cpu_ms, method = %2").arg(kCombinedMethods, kCombinedMethod))
         && (query.addBindValue(static_cast<qlonglong>(cutoff)), query.exec());
     if (!rolled)
         return false;
@@ -106,7 +113,7 @@ bool HistoryDatabase::writeApplications(const std::vector<AppMinuteRecord> &minu
     if (!row.prepare(QStringLiteral("INSERT INTO app_minutes VALUES (?, ?, ?, ?, ?, ?) ON CONFLICT (start, app_id) DO UPDATE SET "
                                     "energy_mj = coalesce(energy_mj + excluded.energy_mj, energy_mj, excluded.energy_mj), "
                                     "cpu_ms = cpu_ms + excluded.cpu_ms, covered_s = min(60, covered_s + excluded.covered_s), "
-                                    "method = max(method, excluded.method)")))
+                                    "method = %1").arg(kCombinedMethod)))
         return abandon(row);
     QHash<QString, qlonglong> ids;
     for (const AppMinuteRecord &minute : minutes) {
@@ -182,8 +189,8 @@ AppEnergyList HistoryDatabase::applications(UnixSeconds from, UnixSeconds to, QS
         if (!query.value(5).isNull())
             app.energyJ = app.energyJ.value_or(0.0) + static_cast<double>(query.value(5).toLongLong()) / 1000.0;
         app.cpuTimeS += static_cast<double>(query.value(6).toLongLong()) / 1000.0;
-        app.method = std::max(app.method, method);
-        weakest = std::max(weakest.value_or(method), method);
+        app.method = combinedMethod(app.method, method);
+        weakest = combinedMethod(weakest.value_or(method), method);
         double &covered = coveredByStart[query.value(0).toLongLong()];
         covered = std::max(covered, query.value(7).toDouble());
     }

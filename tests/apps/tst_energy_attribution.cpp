@@ -66,6 +66,9 @@ private slots:
             << frame(10, {{1, 1, "a", 0, 1}, {2, 1, "a", 0, 1}, {3, 1, "self", 0, 0}})
             << frame(15, {{1, 1, "a", 1, 3}, {2, 1, "a", 1, 2}, {3, 1, "self", 0, 0}}) << MeasuredEnergy{4.0, {}} << measured
             << Expected{{"a", 3}, {"self", 0}, {"others", 1}};
+        QTest::newRow("kernel energy without the chip's: no remainder to give")
+            << frame(10, {{1, 1, "a", 1, 5}}) << frame(15, {{1, 1, "a", 2, 9}}) << MeasuredEnergy{{}, 30.0} << measured
+            << Expected{{"a", 4}};
         QTest::newRow("a reused pid starts from nothing")
             << frame(10, {{1, 1, "a", 5, 50}}) << frame(15, {{1, 12, "a", 1, 2}}) << MeasuredEnergy{3.0, {}} << measured
             << Expected{{"a", 2}, {"others", 1}};
@@ -153,7 +156,7 @@ private slots:
         using K = AppEnergy::Kind;
         using M = AttributionMethod;
         list.apps = {app(K::application, "a", 9, M::measured), app(K::others, "", 8, M::measured), app(K::application, "b", 7, M::measured),
-                     app(K::application, "c", 3, M::chipShare), app(K::application, "d", 2, M::measured), app(K::self, "self", 0.1, M::measured)};
+                     app(K::application, "c", 3, M::chipShare), app(K::application, "d", 2, M::cpuTime), app(K::self, "self", 0.1, M::measured)};
         const AppEnergyList kept = keepTop(list, 2);
         QStringList groups;
         for (const AppEnergy &a : kept.apps)
