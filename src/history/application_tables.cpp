@@ -70,17 +70,16 @@ bool rollUpApplications(QSqlQuery &query, UnixSeconds cutoff)
 {
     // An hour's line per application; its time is the hour's covered time, which every line of a
     // minute shares.
-    const bool rolled = query.prepare(QStringLiteral(
-                            "INSERT INTO app_hours SELECT (start / 3600) * 3600 AS hour, app_id, sum(energy_mj), sum(cpu_ms), 0, %1 "
-                            "FROM app_minutes WHERE start < ? GROUP BY hour, app_id "
-                            "ON CONFLICT (start, app_id) DO UPDATE SET energy_mj = coalesce(energy_mj + excluded.energy_mj, energy_mj, excluded.energy_mj), "
-                            "cpu_ms = cpu_ms + excluded.cpu_ms, method = %2").arg(kCombinedMethods, kCombinedMethod))
-        && (query.addBindValue(static_cast<qlonglong>(cutoff)), query.exec());
-    if (!rolled)
+    const bool prepared = query.prepare(
+        QStringLiteral("WITH covered AS (SELECT hour, sum(seconds) AS seconds FROM (SELECT start / 3600 * 3600 AS hour, max(covered_s) AS seconds "
+                       "FROM app_minutes WHERE start < ? GROUP BY start) GROUP BY hour) "
+                       "INSERT INTO app_hours SELECT m.start / 3600 * 3600 AS hour, m.app_id, sum(m.energy_mj), sum(m.cpu_ms), covered.seconds, %1 "
+                       "FROM app_minutes m JOIN covered ON covered.hour = m.start / 3600 * 3600 WHERE m.start < ? GROUP BY hour, m.app_id "
+                       "ON CONFLICT (start, app_id) DO UPDATE SET energy_mj = coalesce(energy_mj + excluded.energy_mj, energy_mj, excluded.energy_mj), "
+                       "cpu_ms = cpu_ms + excluded.cpu_ms, covered_s = covered_s + excluded.covered_s, method = %2")
+            .arg(kCombinedMethods, kCombinedMethod));
+    if (!prepared)
         return false;
-    query.prepare(QStringLiteral("UPDATE app_hours SET covered_s = covered_s + (SELECT sum(c) FROM (SELECT max(covered_s) AS c FROM app_minutes m "
-                                 "WHERE m.start < ? AND m.start / 3600 * 3600 = app_hours.start GROUP BY m.start)) "
-                                 "WHERE start IN (SELECT DISTINCT start / 3600 * 3600 FROM app_minutes WHERE start < ?)"));
     query.addBindValue(static_cast<qlonglong>(cutoff));
     query.addBindValue(static_cast<qlonglong>(cutoff));
     if (!query.exec())
