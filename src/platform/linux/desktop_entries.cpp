@@ -58,9 +58,9 @@ DesktopEntries::Entry parsedEntry(std::string_view text)
         const std::string_view line = trimmed(text.substr(start, end - start));
         start = end + 1;
         if (line.starts_with('[')) {
-            if (inMainGroup)
-                break;
-            inMainGroup = line == "[Desktop Entry]";
+            if (line != "[Desktop Entry]")
+                break; // the actions' groups follow it, with names of their own
+            inMainGroup = true;
             continue;
         }
         const std::size_t equals = line.find('=');

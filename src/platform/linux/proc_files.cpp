@@ -97,7 +97,7 @@ std::string_view unitApplicationId(std::string_view unit)
 // An id that names a desktop entry's file and nothing outside its folder.
 bool isFileId(std::string_view id)
 {
-    if (id.empty() || id.front() == '.')
+    if (id.empty())
         return false;
     for (const char c : id) {
         const auto byte = static_cast<unsigned char>(c);
