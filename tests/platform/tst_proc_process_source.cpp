@@ -188,14 +188,14 @@ private slots:
         QVERIFY(!ProcProcessSource(QFile::encodeName(tree.folder.filePath(QStringLiteral("none"))).toStdString()).sample());
     }
 
-    // A known process keeps what it was found to be; a new one in its pid, or its return after
-    // it was gone, is looked at afresh.
+    // A known process keeps what it was found to be, unless it was just starting; a new one in
+    // its pid, or its return after it was gone, is looked at afresh.
     void knownProcesses()
     {
         Tree tree;
         ProcProcessSource source = tree.source();
-        const auto groupAfter = [&](const QByteArray &start, const QByteArray &cgroup) {
-            tree.addProcess(42, statLine("x", "4194560", "250", start), cgroup);
+        const auto groupAfter = [&](const QByteArray &start, const QByteArray &cgroup, const QByteArray &flags = "4194560") {
+            tree.addProcess(42, statLine("x", flags, "250", start), cgroup);
             const std::optional<ProcessFrame> frame = source.sample();
             return frame && frame->processes.size() == 1 ? frame->processes.front().group : QString();
         };
@@ -205,6 +205,16 @@ private slots:
         QVERIFY(QDir(tree.folder.filePath(QStringLiteral("proc/42"))).removeRecursively());
         QVERIFY(source.sample()->processes.empty());
         QCOMPARE(groupAfter("4100", "0::/app-c@1.service\n"), QStringLiteral("c"));
+        // Half a second old at the uptime of 1000.5 s: its launcher may not have moved it yet.
+        const QByteArray justStarted = QByteArray::number(1000 * kTicks, 'f', 0);
+        QCOMPARE(groupAfter(justStarted, "0::/app-d@1.service\n"), QStringLiteral("d"));
+        QCOMPARE(groupAfter(justStarted, "0::/app-e@1.service\n"), QStringLiteral("e"));
+        // A kernel thread's pid that went to a new process is noticed within a minute of samples.
+        QCOMPARE(groupAfter("4200", "0::/\n", "69238848"), QString());
+        QString group;
+        for (int sample = 0; sample < 12 && group.isEmpty(); ++sample)
+            group = groupAfter("4300", "0::/app-f@1.service\n");
+        QCOMPARE(group, QStringLiteral("f"));
     }
 };
 

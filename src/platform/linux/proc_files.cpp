@@ -109,24 +109,38 @@ bool isFileId(std::string_view id)
 
 } // namespace
 
-std::optional<std::size_t> readFileAt(int folder, const char *path, char *buffer, std::size_t capacity)
+int openFileAt(int folder, const char *path)
 {
-    const int file = ::openat(folder, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (file < 0)
-        return std::nullopt;
+    return ::openat(folder, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+}
+
+std::optional<std::size_t> readFile(int file, char *buffer, std::size_t capacity)
+{
     std::size_t size = 0;
-    bool failed = false;
     while (size < capacity) {
-        const ssize_t count = ::read(file, buffer + size, capacity - size);
+        const std::size_t wanted = capacity - size;
+        const ssize_t count = ::pread(file, buffer + size, wanted, static_cast<off_t>(size));
         if (count < 0 && errno == EINTR)
             continue;
-        failed = count < 0;
-        if (count <= 0)
-            break;
+        if (count < 0)
+            return std::nullopt;
         size += static_cast<std::size_t>(count);
+        // A file on disk or of the kernel's gives all it has at once; asking again only to hear
+        // that there is no more would add a third to the cost of reading it.
+        if (static_cast<std::size_t>(count) < wanted)
+            break;
     }
+    return size;
+}
+
+std::optional<std::size_t> readFileAt(int folder, const char *path, char *buffer, std::size_t capacity)
+{
+    const int file = openFileAt(folder, path);
+    if (file < 0)
+        return std::nullopt;
+    const std::optional<std::size_t> size = readFile(file, buffer, capacity);
     ::close(file);
-    return failed ? std::nullopt : std::optional(size);
+    return size;
 }
 
 std::optional<ProcStat> parseProcStat(std::string_view text)

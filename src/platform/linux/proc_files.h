@@ -9,9 +9,13 @@
 
 namespace ferrow {
 
-// Reads a file relative to an open folder (AT_FDCWD for a path) into buffer without blocking on
-// a pipe; the bytes read, which fill the buffer when the file is longer. Absent when it cannot be
-// opened or read (gone, a folder, not ours).
+// A file relative to an open folder (AT_FDCWD for a path) opened for reading, where a pipe cannot
+// hold the reading up; -1 where it cannot be opened.
+int openFileAt(int folder, const char *path);
+// An open file read from its start into buffer: the bytes read, which fill the buffer when the
+// file is longer. Absent when it cannot be read: a folder, a process's file once it has ended.
+std::optional<std::size_t> readFile(int file, char *buffer, std::size_t capacity);
+// The two, closing the file after.
 std::optional<std::size_t> readFileAt(int folder, const char *path, char *buffer, std::size_t capacity);
 
 // What a process's <pid>/stat says about it, in clock ticks.

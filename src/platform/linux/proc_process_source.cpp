@@ -2,12 +2,14 @@
 
 #include "platform/linux/proc_files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cstring>
 #include <string_view>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace ferrow {
@@ -19,6 +21,8 @@ constexpr std::size_t kStatCapacity = 1024;
 constexpr std::size_t kCgroupCapacity = 4096;
 // /proc/stat's "cpu " line comes first; the rest, one line per core and more, is not read.
 constexpr std::size_t kCpuLineCapacity = 512;
+// Samples between two looks at a kernel thread.
+constexpr std::uint64_t kKernelThreadCheck = 12;
 // The longest pid directory name a path buffer takes.
 constexpr std::size_t kMostPidDigits = 19;
 
@@ -51,6 +55,20 @@ QString lastDottedPart(const QString &id)
     return last.isEmpty() ? id : last;
 }
 
+// How long after its start a process may still move: a launcher puts it into the application's
+// unit, or it replaces its program, within moments of starting.
+constexpr double kSettlingS = 1.0;
+
+// Half of what this process may open; the other half is left for everything else.
+std::size_t mostOpenFiles()
+{
+    constexpr std::size_t kMost = 2048;
+    rlimit limit {};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0)
+        return 0;
+    return limit.rlim_cur == RLIM_INFINITY ? kMost : std::min<std::size_t>(kMost, limit.rlim_cur / 2);
+}
+
 } // namespace
 
 std::int64_t ProcProcessSource::currentPid()
@@ -62,6 +80,7 @@ ProcProcessSource::ProcProcessSource(std::string root, QStringList dataFolders, 
     : m_root(std::move(root))
     , m_desktopEntries(std::move(dataFolders))
     , m_selfPid(selfPid)
+    , m_mostOpenFiles(mostOpenFiles())
 {
     const long ticks = ::sysconf(_SC_CLK_TCK);
     m_ticksPerSecond = ticks > 0 ? static_cast<double>(ticks) : 100.0;
@@ -69,6 +88,8 @@ ProcProcessSource::ProcProcessSource(std::string root, QStringList dataFolders, 
 
 ProcProcessSource::~ProcProcessSource()
 {
+    for (auto &[pid, known] : m_known)
+        closeStatFile(known);
     if (m_folder)
         ::closedir(m_folder);
 }
@@ -119,41 +140,96 @@ std::optional<ProcessFrame> ProcProcessSource::sample()
     }
     if (errno != 0)
         return std::nullopt;
-    std::erase_if(m_known, [this](const auto &known) { return known.second.seenInSample != m_sampleNumber; });
+    for (auto known = m_known.begin(); known != m_known.end();) {
+        if (known->second.seenInSample == m_sampleNumber) {
+            ++known;
+            continue;
+        }
+        closeStatFile(known->second);
+        known = m_known.erase(known);
+    }
     m_lastCount = frame.processes.size();
     return frame;
 }
 
 void ProcProcessSource::sampleProcess(std::int64_t pid, const char *pidName, ProcessFrame &frame)
 {
-    char path[kMostPidDigits + 16];
-    char text[kStatCapacity];
-    const std::optional<std::size_t> size = readFileAt(::dirfd(m_folder), pidPath(path, pidName, "stat"), text, sizeof text);
-    if (!size || *size == sizeof text)
-        return; // gone, or not a stat line
-    const std::optional<ProcStat> stat = parseProcStat(std::string_view(text, *size));
-    if (!stat || stat->kernelThread)
+    const auto found = m_known.find(pid);
+    Known *known = found == m_known.end() ? nullptr : &found->second;
+    // A kernel thread keeps its pid until it ends, and pids come round again only after millions
+    // more; each is looked at now and then in case its pid went to a new process.
+    if (known && known->kernelThread && (static_cast<std::uint64_t>(pid) + m_sampleNumber) % kKernelThreadCheck != 0) {
+        known->seenInSample = m_sampleNumber;
         return;
-    const auto [found, isNew] = m_known.try_emplace(pid);
-    Known &known = found->second;
-    if (isNew || known.startTicks != stat->startTicks)
-        describe(known, pid, pidName, *stat);
-    known.seenInSample = m_sampleNumber;
+    }
+
+    char text[kStatCapacity];
+    std::optional<std::size_t> size;
+    if (known && known->statFile >= 0) {
+        size = readFile(known->statFile, text, sizeof text);
+        if (!size)
+            closeStatFile(*known); // it ended; its pid may have gone to a new process
+    }
+    int opened = -1;
+    if (!size) {
+        char path[kMostPidDigits + 16];
+        opened = openFileAt(::dirfd(m_folder), pidPath(path, pidName, "stat"));
+        size = opened >= 0 ? readFile(opened, text, sizeof text) : std::nullopt;
+    }
+    // Gone, or not a stat line.
+    const std::optional<ProcStat> stat = size && *size < sizeof text ? parseProcStat(std::string_view(text, *size)) : std::nullopt;
+    if (!stat) {
+        if (opened >= 0)
+            ::close(opened);
+        return;
+    }
+
+    if (!known)
+        known = &m_known.try_emplace(pid).first->second;
+    const double startedS = static_cast<double>(stat->startTicks) / m_ticksPerSecond;
+    if (known->seenInSample == 0 || known->startTicks != stat->startTicks || !known->settled) {
+        known->startTicks = stat->startTicks;
+        known->kernelThread = stat->kernelThread;
+        known->settled = frame.uptimeS - startedS >= kSettlingS;
+        if (known->kernelThread)
+            closeStatFile(*known);
+        else
+            describe(*known, pid, pidName, *stat);
+    }
+    known->seenInSample = m_sampleNumber;
+    if (opened >= 0) {
+        if (!known->kernelThread && known->statFile < 0 && m_openFiles < m_mostOpenFiles) {
+            known->statFile = opened;
+            ++m_openFiles;
+        } else {
+            ::close(opened);
+        }
+    }
+    if (known->kernelThread)
+        return;
 
     ProcessSample &process = frame.processes.emplace_back();
     process.pid = pid;
-    process.startedS = static_cast<double>(stat->startTicks) / m_ticksPerSecond;
-    process.group = known.group;
-    process.name = known.name;
-    process.icon = known.icon;
+    process.startedS = startedS;
+    process.group = known->group;
+    process.name = known->name;
+    process.icon = known->icon;
     process.cpuTimeS = static_cast<double>(stat->cpuTicks) / m_ticksPerSecond;
     process.isSelf = pid == m_selfPid;
 }
 
+void ProcProcessSource::closeStatFile(Known &known)
+{
+    if (known.statFile < 0)
+        return;
+    ::close(known.statFile);
+    known.statFile = -1;
+    --m_openFiles;
+}
+
 void ProcProcessSource::describe(Known &known, std::int64_t pid, const char *pidName, const ProcStat &stat)
 {
-    known = Known{};
-    known.startTicks = stat.startTicks;
+    known.icon.clear();
     const int folder = ::dirfd(m_folder);
     char path[kMostPidDigits + 16];
     char text[kCgroupCapacity];
