@@ -1,5 +1,6 @@
 #include "platform/linux/proc_files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cmath>

@@ -21,6 +21,9 @@ constexpr std::size_t kStatCapacity = 1024;
 constexpr std::size_t kCgroupCapacity = 4096;
 // /proc/stat's "cpu " line comes first; the rest, one line per core and more, is not read.
 constexpr std::size_t kCpuLineCapacity = 512;
+// How long after its start a process may still move: a launcher puts it into the application's
+// unit, or it replaces its program, within moments of starting.
+constexpr double kSettlingS = 1.0;
 // Samples between two looks at a kernel thread.
 constexpr std::uint64_t kKernelThreadCheck = 12;
 // The longest pid directory name a path buffer takes.
@@ -54,10 +57,6 @@ QString lastDottedPart(const QString &id)
     const QString last = id.section(QLatin1Char('.'), -1);
     return last.isEmpty() ? id : last;
 }
-
-// How long after its start a process may still move: a launcher puts it into the application's
-// unit, or it replaces its program, within moments of starting.
-constexpr double kSettlingS = 1.0;
 
 // Half of what this process may open; the other half is left for everything else.
 std::size_t mostOpenFiles()
