@@ -4,6 +4,7 @@
 #include "platform/common/settings_key_value_store.h"
 #include "platform/linux/linux_diagnosis.h"
 #include "platform/linux/linux_power_reader.h"
+#include "platform/linux/proc_process_source.h"
 
 #include <QFile>
 
@@ -41,7 +42,9 @@ std::optional<NativeMachine> openThisMachine()
     auto reader = std::make_unique<LinuxPowerReader>(std::make_unique<SysfsFiles>(), std::make_unique<SettingsKeyValueStore>());
     if (!reader->hasPowerSources())
         return std::nullopt;
-    return opened(std::move(reader), QStringLiteral("this Linux machine"));
+    NativeMachine machine = opened(std::move(reader), QStringLiteral("this Linux machine"));
+    machine.processes = std::make_unique<ProcProcessSource>();
+    return machine;
 }
 
 // Read in real time, as a machine, so that a graphics card's recorded power integrates as it
