@@ -273,7 +273,7 @@ private slots:
         QTest::newRow("a capacity, singular") << english << localizedFormat("capacity.mah", {1}) << QStringLiteral("1 milliampere-hour");
         QTest::newRow("the sample rate") << english << QStringLiteral("1 Hz") << QStringLiteral("1 hertz");
         QTest::newRow("a figure inside a text") << english << QStringLiteral("USB-C PD \u00B7 20.1 V") << QStringLiteral("USB-C PD \u00B7 20.1 volts");
-        QTest::newRow("another unit that starts alike") << english << QStringLiteral("8.4 Wh") << QStringLiteral("8.4 Wh");
+        QTest::newRow("another unit that starts alike") << english << QStringLiteral("8.4 Wh") << QStringLiteral("8.4 watt-hours");
         QTest::newRow("words") << english << QStringLiteral("Charging") << QStringLiteral("Charging");
         QTest::newRow("German digits") << german << QStringLiteral("+1.500 A") << QStringLiteral("+1,500 amperes");
         QTest::newRow("German capacity") << german << QStringLiteral("6.249 mAh") << QStringLiteral("6.249 milliampere-hours");
