@@ -407,6 +407,40 @@ private slots:
         QCOMPARE(changes.constFirst().constFirst().value<AlertSettings>(), expected);
     }
 
+    // The Applications section shows the picked period's list, never a late answer for another;
+    // the popover's lines ask for the section, by pointer and by keyboard alike.
+    void applicationsFollowThePickedPeriod()
+    {
+        MainWindowView window;
+        QSignalSpy asked(&window, &MainWindowView::applicationsPeriodRequested);
+        const QWidget *panel = window.findChild<QWidget *>(QStringLiteral("applicationsPanel"));
+        const QWidget *note = panel->findChild<QWidget *>(QStringLiteral("appsNote"));
+        const AppEnergyList list{{AppEnergy{AppEnergy::Kind::application, QStringLiteral("mail"), QStringLiteral("Mail"), {}, 360.0, 4, 600, AttributionMethod::measured}},
+                                 600,
+                                 AttributionMethod::measured};
+        window.setApplications(AppPeriod::today, list);
+        QVERIFY(note->isVisibleTo(panel));
+        window.setApplications(AppPeriod::session, list);
+        QVERIFY(!note->isVisibleTo(panel));
+        for (QToolButton *choice : panel->findChildren<QToolButton *>())
+            if (choice->text() == localizedText("apps.period_7_days"))
+                choice->click();
+        QCOMPARE(asked.size(), 1);
+        QCOMPARE(asked.constFirst().constFirst().value<AppPeriod>(), AppPeriod::sevenDays);
+        QCOMPARE(window.applicationsPeriod(), AppPeriod::sevenDays);
+        window.setApplications(AppPeriod::session, list);
+        QVERIFY(note->isVisibleTo(panel));
+        window.setApplications(AppPeriod::sevenDays, list);
+        QVERIFY(!note->isVisibleTo(panel));
+
+        DashboardView dashboard;
+        QSignalSpy opened(&dashboard, &DashboardView::applicationsRequested);
+        auto *line = dashboard.findChild<QAbstractButton *>(QStringLiteral("appLine0"));
+        QTest::mouseClick(line, Qt::LeftButton);
+        QTest::keyClick(line, Qt::Key_Return);
+        QTRY_COMPARE(opened.size(), 2);
+    }
+
     void chartDrawsRunsAndNamedAxes()
     {
         PowerHistoryChart chart;

@@ -1,6 +1,7 @@
 #include "views/report/applications_panel.h"
 
 #include "model/localized_text.h"
+#include "views/accessible_content.h"
 #include "views/ferrow_button.h"
 #include "views/history_model.h"
 #include "views/view_painting.h"
@@ -25,7 +26,7 @@ constexpr double kIconSide = 18;
 constexpr double kNameLeft = 28;
 constexpr double kColumnGap = 20;
 constexpr double kAmountWidth = 92;
-constexpr double kPowerWidth = 84;
+constexpr double kPowerWidth = 96;
 constexpr double kShareWidth = 150;
 constexpr double kBarWidth = 92;
 constexpr double kButtonInset = 4; // a sort button reaches past its column by its focus ring
@@ -172,8 +173,10 @@ private:
     void place()
     {
         const Columns c = columnsFor(contentsRect().width(), m_energy);
+        // A title may reach over the gap before its column: the figures under it keep to the trailing edge.
         const auto at = [&](QWidget *button, const Span &column) {
-            button->setGeometry(QRectF(contentsRect().left() + column.left - kButtonInset, 0, column.width() + 2 * kButtonInset, kHeaderHeight - 2)
+            const double left = column.left - kColumnGap / 2;
+            button->setGeometry(QRectF(contentsRect().left() + left - kButtonInset, 0, column.right - left + 2 * kButtonInset, kHeaderHeight - 2)
                                     .toRect());
         };
         at(m_byEnergy, c.amount);
@@ -306,6 +309,7 @@ ApplicationsPanel::ApplicationsPanel(QWidget *parent)
     auto *topRow = new QHBoxLayout(top);
     topRow->setContentsMargins(0, 0, 0, 8);
     m_covered->setObjectName(QStringLiteral("appsCovered"));
+    readWhenAsked(m_covered); // its figure grows with the session
     topRow->addWidget(m_covered);
     topRow->addStretch();
     topRow->addWidget(picker);
@@ -377,6 +381,7 @@ void ApplicationsPanel::showList()
     m_caption->setText(attributionCaption(list.method));
     m_covered->setText(shown && list.coveredS >= 60 ? localizedFormatText("apps.covered", {sessionDurationText(std::llround(list.coveredS))})
                                                       : QString());
+    m_covered->setVisible(!m_covered->text().isEmpty()); // an empty label would be read as a nameless one
 }
 
 void ApplicationsPanel::setFerrowPalette(const FerrowPalette &palette)
