@@ -398,6 +398,7 @@ int main(int argc, char *argv[])
             DashboardView dashboard;
             dashboard.setFerrowPalette(FerrowPalette{scheme, contrast});
             dashboard.setSnapshot(snapshots[1]);
+            dashboard.setTopApplications(sessionApplications());
             dashboard.setFrame(DashboardView::Frame::square); // as under a window system that does not composite
             dashboard.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
             dashboard.setShowPowerInMenuBar(true);
