@@ -314,6 +314,7 @@ ApplicationsPanel::ApplicationsPanel(QWidget *parent)
     topRow->addStretch();
     topRow->addWidget(picker);
 
+    m_rows->setObjectName(QStringLiteral("appsRows"));
     m_note->setObjectName(QStringLiteral("appsNote"));
     m_note->setWordWrap(true);
     m_caption->setObjectName(QStringLiteral("appsMethod"));
