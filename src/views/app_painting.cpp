@@ -52,20 +52,20 @@ std::size_t monogramTileIndex(const QString &group)
     return hash % kMonogramTiles;
 }
 
-QIcon AppIcons::icon(const QString &spec)
+QIcon AppIcons::icon(const QString &where)
 {
-    if (const auto found = m_found.constFind(spec); found != m_found.constEnd())
+    if (const auto found = m_found.constFind(where); found != m_found.constEnd())
         return *found;
     QIcon icon;
-    switch (appIconSource(spec)) {
+    switch (appIconSource(where)) {
     case AppIconSource::bundle:
-        icon = QFileIconProvider().icon(QFileInfo(spec.trimmed()));
+        icon = QFileIconProvider().icon(QFileInfo(where.trimmed()));
         break;
     case AppIconSource::file:
-        icon = QIcon(spec.trimmed());
+        icon = QIcon(where.trimmed());
         break;
     case AppIconSource::theme:
-        icon = QIcon::fromTheme(spec.trimmed());
+        icon = QIcon::fromTheme(where.trimmed());
         break;
     case AppIconSource::none:
         break;
@@ -73,7 +73,7 @@ QIcon AppIcons::icon(const QString &spec)
     // A file that cannot be read, or a theme without the name, gives an icon with nothing to draw.
     if (!icon.isNull() && icon.pixmap(32).isNull())
         icon = QIcon();
-    m_found.insert(spec, icon);
+    m_found.insert(where, icon);
     return icon;
 }
 

@@ -7,10 +7,15 @@
 #include <QIcon>
 #include <QString>
 
+#include <cstddef>
+
+class QFont;
 class QPainter;
 class QRectF;
 
 namespace ferrow {
+
+// How the lists of applications draw what they share: icons and figures.
 
 // Where an application's icon comes from: a bundle's own, an image file, the desktop's icon theme,
 // or nowhere (a monogram stands in).
@@ -26,14 +31,14 @@ std::size_t monogramTileIndex(const QString &group);
 class AppIcons {
 public:
     // The icon where its source has one to show; a null icon otherwise.
-    QIcon icon(const QString &spec);
+    QIcon icon(const QString &where);
 
 private:
     QHash<QString, QIcon> m_found;
 };
 
 // A line's icon in box: the application's own or its monogram, this program's, or a neutral glyph
-// for the other applications and the system on a tile of ground's tint.
+// on a tinted tile for the other applications and the system.
 void paintAppIcon(QPainter &painter, const QRectF &box, const AppRow &row, AppIcons &icons, const FerrowPalette &palette);
 
 // The mark before an estimated figure.

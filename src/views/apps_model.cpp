@@ -153,8 +153,11 @@ std::vector<AppRow> appRows(const AppEnergyList &list, AppSort sort, std::size_t
         } else if (apps[i]->kind == AppEnergy::Kind::self && !pinned) {
             pinned = apps[i];
         } else {
-            if (!rest)
-                rest = AppEnergy{AppEnergy::Kind::rest, {}, {}, {}, std::nullopt, 0, 0, AttributionMethod::measured};
+            if (!rest) { // as measured as can be, until a part folded in is less so
+                rest = AppEnergy{};
+                rest->kind = AppEnergy::Kind::rest;
+                rest->method = AttributionMethod::measured;
+            }
             fold(*rest, *apps[i]);
         }
     }
