@@ -777,5 +777,155 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>Mitteilungen sind für Ferrow in den Systemeinstellungen ausgeschaltet</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>Apps</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>Energie nach App</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>Meiste Energie in dieser Sitzung</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>In dieser Sitzung noch nichts gemessen</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>Sitzung</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7 Tage</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30 Tage</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>App</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>Energie</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>Mittlere Leistung</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>Anteil</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>CPU-Zeit</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>Anteil an der CPU-Zeit</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>Nach Energie sortieren</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>Nach mittlerer Leistung sortieren</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow (diese App)</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>seit dem Start</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>System und andere Benutzer</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>Andere Apps</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>Vom System für jede App gemessen</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>Geschätzt: die gemessene Energie des Prozessors, nach der CPU-Zeit jeder App aufgeteilt</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>Geschätzt: der Anteil des Prozessors an der gemessenen Leistung des Systems, nach CPU-Zeit aufgeteilt</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>Nur CPU-Zeit: Dieser Rechner misst keine Energie</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 kennzeichnet einen geschätzten Wert</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>geschätzt</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>gemessen</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>Für diesen Zeitraum noch nichts aufgezeichnet</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>Ferrow speichert keinen Verlauf, daher hat nur die aktuelle Sitzung eine Liste. Für die kommenden Tage unter „Verlauf“ die Option „Energieverlauf speichern“ einschalten.</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>Wird gelesen …</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln s</numerusform>
+            <numerusform>%Ln s</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>%1 Prozent</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1 Wattstunden</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln Milliwattstunde</numerusform>
+            <numerusform>%Ln Milliwattstunden</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

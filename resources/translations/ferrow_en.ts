@@ -777,5 +777,155 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>Notifications are turned off for Ferrow in the system&apos;s settings</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>Applications</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>Energy by application</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>Most energy this session</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>Nothing measured yet this session</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>Period</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>Today</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7 days</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30 days</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>Over %1</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>Application</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>Energy</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>Mean power</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>Share</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>CPU time</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>Share of CPU time</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>Sort by energy</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>Sort by mean power</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow (this app)</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>since it started</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>System and other users</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>Other applications</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>Measured by the system for each application</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>CPU time only: this machine does not measure energy</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 marks an estimate</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>estimated</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>measured</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>Nothing recorded for this period yet</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>Reading…</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln s</numerusform>
+            <numerusform>%Ln s</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>%1 percent</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1 watt-hours</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln milliwatt-hour</numerusform>
+            <numerusform>%Ln milliwatt-hours</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

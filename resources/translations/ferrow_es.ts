@@ -777,5 +777,155 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>Las notificaciones de Ferrow están desactivadas en los ajustes del sistema</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>Aplicaciones</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>Energía por aplicación</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>Más energía en esta sesión</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>Aún no se ha medido nada en esta sesión</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>Periodo</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>Sesión</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>Hoy</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7 días</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30 días</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>Durante %1</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>Aplicación</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>Energía</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>Potencia media</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>Proporción</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>Tiempo de CPU</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>Proporción del tiempo de CPU</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>Ordenar por energía</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>Ordenar por potencia media</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow (esta app)</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>desde que se abrió</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>Sistema y otros usuarios</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>Otras aplicaciones</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>Medida por el sistema para cada aplicación</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>Estimada: la energía medida del procesador, repartida según el tiempo de CPU de cada aplicación</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>Estimada: la parte del procesador en la potencia medida del sistema, repartida según el tiempo de CPU</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>Solo tiempo de CPU: este equipo no mide la energía</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 indica una estimación</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>estimada</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>medida</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>Aún no hay nada registrado en este periodo</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>Ferrow no guarda historial, así que solo la sesión actual tiene una lista. Activa «Guardar el historial de energía» en Historial para conservar los próximos días.</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>Leyendo…</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln s</numerusform>
+            <numerusform>%Ln s</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>%1 por ciento</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1 vatios hora</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln milivatio hora</numerusform>
+            <numerusform>%Ln milivatios hora</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -777,5 +777,155 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>Les notifications de Ferrow sont désactivées dans les réglages du système</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>Applications</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>Énergie par application</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>Plus forte consommation de la session</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>Rien de mesuré pour l’instant dans cette session</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>Période</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7 jours</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30 jours</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>Sur %1</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>Application</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>Énergie</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>Puissance moyenne</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>Part</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>Temps CPU</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>Part du temps CPU</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>Trier par énergie</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>Trier par puissance moyenne</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow (cette app)</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>depuis son lancement</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>Système et autres utilisateurs</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>Autres applications</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>Mesurée par le système pour chaque application</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>Estimée : l’énergie mesurée du processeur, répartie selon le temps CPU de chaque application</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>Estimée : la part du processeur dans la puissance mesurée du système, répartie selon le temps CPU</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>Temps CPU seulement : cet ordinateur ne mesure pas l’énergie</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 indique une estimation</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>estimée</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>mesurée</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>Rien d’enregistré pour cette période pour l’instant</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>Ferrow ne conserve aucun historique : seule la session en cours a une liste. Activez « Conserver l’historique d’énergie » dans Historique pour garder les jours à venir.</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>Lecture…</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln s</numerusform>
+            <numerusform>%Ln s</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>%1 pour cent</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1 wattheures</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln milliwattheure</numerusform>
+            <numerusform>%Ln milliwattheures</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -777,5 +777,155 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>Le notifiche di Ferrow sono disattivate nelle impostazioni di sistema</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>App</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>Energia per app</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>Più energia in questa sessione</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>Ancora nulla di misurato in questa sessione</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>Periodo</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>Sessione</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>Oggi</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7 giorni</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30 giorni</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>In %1</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>App</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>Energia</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>Potenza media</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>Quota</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>Tempo CPU</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>Quota del tempo CPU</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>Ordina per energia</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>Ordina per potenza media</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow (questa app)</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>dall’avvio</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>Sistema e altri utenti</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>Altre app</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>Misurata dal sistema per ogni app</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>Stimata: l’energia misurata del processore, ripartita in base al tempo CPU di ogni app</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>Stimata: la quota del processore nella potenza misurata del sistema, ripartita in base al tempo CPU</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>Solo tempo CPU: questo computer non misura l’energia</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 indica una stima</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>stimata</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>misurata</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>Ancora nulla di registrato per questo periodo</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>Ferrow non conserva alcuna cronologia: solo la sessione attuale ha un elenco. Attiva «Conserva la cronologia dell’energia» in Cronologia per tenere i prossimi giorni.</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>Lettura…</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln s</numerusform>
+            <numerusform>%Ln s</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>%1 percento</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1 wattora</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln milliwattora</numerusform>
+            <numerusform>%Ln milliwattora</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -767,5 +767,153 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>システム設定でFerrowの通知がオフになっています</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>アプリ</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>アプリ別エネルギー</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>このセッションの消費上位</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>このセッションではまだ測定値がありません</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>期間</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>セッション</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>今日</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7日間</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30日間</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>集計時間：%1</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>アプリ</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>エネルギー</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>平均電力</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>割合</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>CPU時間</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>CPU時間の割合</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>エネルギー順に並べ替え</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>平均電力順に並べ替え</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow（このアプリ）</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>起動以降</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>システムと他のユーザー</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>その他のアプリ</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>システムがアプリごとに測定</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>推定：プロセッサの測定エネルギーを各アプリのCPU時間で按分</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>推定：システムの測定電力のうちプロセッサ分をCPU時間で按分</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>CPU時間のみ：このコンピュータはエネルギーを測定しません</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 は推定値</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>推定</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>測定</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>この期間の記録はまだありません</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>Ferrowは履歴を保存していないため、リストは現在のセッションのみです。今後の日々を残すには、「履歴」で「エネルギー履歴を保存」をオンにしてください。</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>読み取り中…</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln 秒</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>%1 パーセント</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1 ワット時</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln ミリワット時</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -767,5 +767,153 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>시스템 설정에서 Ferrow의 알림이 꺼져 있습니다</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>앱</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>앱별 에너지</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>이번 세션에서 에너지를 가장 많이 쓴 앱</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>이번 세션에서 아직 측정된 것이 없습니다</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>기간</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>세션</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>오늘</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7일</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30일</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>%1 동안</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>앱</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>에너지</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>평균 전력</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>비율</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>CPU 시간</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>CPU 시간 비율</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>에너지순으로 정렬</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>평균 전력순으로 정렬</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow(이 앱)</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>시작 이후</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>시스템 및 다른 사용자</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>기타 앱</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>시스템이 앱별로 측정</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>추정: 프로세서의 측정 에너지를 각 앱의 CPU 시간으로 나눔</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>추정: 시스템 측정 전력 중 프로세서 몫을 CPU 시간으로 나눔</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>CPU 시간만: 이 컴퓨터는 에너지를 측정하지 않습니다</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 표시는 추정값입니다</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>추정</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>측정</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>이 기간에 아직 기록된 것이 없습니다</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>Ferrow가 기록을 보관하지 않으므로 현재 세션에만 목록이 있습니다. 앞으로의 날을 남기려면 기록에서 ‘에너지 기록 보관’을 켜세요.</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>읽는 중…</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln초</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>%1퍼센트</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1와트시</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln밀리와트시</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -777,5 +777,155 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>Meldingen voor Ferrow staan uit in de systeeminstellingen</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>Apps</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>Energie per app</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>Meeste energie deze sessie</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>Deze sessie nog niets gemeten</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>Periode</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>Sessie</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>Vandaag</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7 dagen</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30 dagen</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>Over %1</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>App</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>Energie</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>Gemiddeld vermogen</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>Aandeel</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>CPU-tijd</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>Aandeel in CPU-tijd</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>Sorteren op energie</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>Sorteren op gemiddeld vermogen</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow (deze app)</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>sinds de start</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>Systeem en andere gebruikers</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>Andere apps</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>Door het systeem per app gemeten</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>Geschat: de gemeten energie van de processor, verdeeld naar de CPU-tijd van elke app</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>Geschat: het aandeel van de processor in het gemeten vermogen van het systeem, verdeeld naar CPU-tijd</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>Alleen CPU-tijd: deze computer meet geen energie</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 geeft een schatting aan</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>geschat</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>gemeten</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>Voor deze periode nog niets vastgelegd</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>Ferrow bewaart geen geschiedenis, dus alleen de huidige sessie heeft een lijst. Zet ‘Energiegeschiedenis bewaren’ aan bij Geschiedenis om de komende dagen te bewaren.</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>Lezen…</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln s</numerusform>
+            <numerusform>%Ln s</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>%1 procent</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1 wattuur</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln milliwattuur</numerusform>
+            <numerusform>%Ln milliwattuur</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

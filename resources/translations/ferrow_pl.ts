@@ -787,5 +787,157 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>Powiadomienia Ferrow są wyłączone w ustawieniach systemu</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>Aplikacje</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>Energia według aplikacji</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>Najwięcej energii w tej sesji</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>W tej sesji nic jeszcze nie zmierzono</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>Okres</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>Sesja</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>Dziś</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7 dni</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30 dni</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>Przez %1</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>Aplikacja</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>Energia</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>Średnia moc</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>Udział</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>Czas CPU</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>Udział w czasie CPU</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>Sortuj według energii</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>Sortuj według średniej mocy</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow (ta aplikacja)</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>od uruchomienia</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>System i inni użytkownicy</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>Inne aplikacje</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>Zmierzona przez system dla każdej aplikacji</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>Szacowana: zmierzona energia procesora podzielona według czasu CPU każdej aplikacji</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>Szacowana: udział procesora w zmierzonej mocy systemu, podzielony według czasu CPU</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>Tylko czas CPU: ten komputer nie mierzy energii</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 oznacza wartość szacowaną</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>szacowana</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>zmierzona</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>W tym okresie nic jeszcze nie zapisano</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>Ferrow nie przechowuje historii, więc listę ma tylko bieżąca sesja. Włącz „Zachowuj historię energii” w sekcji Historia, aby zachować kolejne dni.</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>Odczytywanie…</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln s</numerusform>
+            <numerusform>%Ln s</numerusform>
+            <numerusform>%Ln s</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>%1 procent</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1 watogodziny</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln miliwatogodzina</numerusform>
+            <numerusform>%Ln miliwatogodziny</numerusform>
+            <numerusform>%Ln miliwatogodzin</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

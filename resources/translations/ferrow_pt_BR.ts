@@ -777,5 +777,155 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>As notificações do Ferrow estão desativadas nos ajustes do sistema</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>Apps</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>Energia por app</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>Mais energia nesta sessão</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>Nada medido ainda nesta sessão</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>Período</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>Sessão</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>Hoje</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7 dias</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30 dias</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>Em %1</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>App</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>Energia</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>Potência média</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>Parcela</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>Tempo de CPU</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>Parcela do tempo de CPU</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>Ordenar por energia</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>Ordenar por potência média</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow (este app)</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>desde que foi aberto</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>Sistema e outros usuários</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>Outros apps</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>Medida pelo sistema para cada app</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>Estimada: a energia medida do processador, dividida pelo tempo de CPU de cada app</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>Estimada: a parcela do processador na potência medida do sistema, dividida pelo tempo de CPU</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>Só tempo de CPU: este computador não mede energia</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 indica uma estimativa</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>estimada</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>medida</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>Nada registrado neste período ainda</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>O Ferrow não mantém histórico, então só a sessão atual tem uma lista. Ative “Manter histórico de energia” em Histórico para guardar os próximos dias.</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>Lendo…</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln s</numerusform>
+            <numerusform>%Ln s</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>%1 por cento</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1 watts-hora</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln miliwatt-hora</numerusform>
+            <numerusform>%Ln miliwatts-hora</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

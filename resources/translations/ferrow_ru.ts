@@ -787,5 +787,157 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>Уведомления для Ferrow отключены в системных настройках</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>Приложения</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>Энергия по приложениям</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>Больше всего энергии за сеанс</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>За этот сеанс пока ничего не измерено</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>Период</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>Сеанс</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>Сегодня</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7 дней</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30 дней</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>За %1</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>Приложение</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>Энергия</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>Средняя мощность</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>Доля</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>Время ЦП</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>Доля времени ЦП</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>Сортировать по энергии</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>Сортировать по средней мощности</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow (это приложение)</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>с момента запуска</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>Система и другие пользователи</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>Другие приложения</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>Измерено системой для каждого приложения</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>Оценка: измеренная энергия процессора, распределённая по времени ЦП каждого приложения</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>Оценка: доля процессора в измеренной мощности системы, распределённая по времени ЦП</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>Только время ЦП: этот компьютер не измеряет энергию</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 — оценочное значение</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>оценка</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>измерено</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>За этот период пока ничего не записано</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>Ferrow не хранит историю, поэтому список есть только для текущего сеанса. Включите «Хранить историю энергии» в разделе «История», чтобы сохранять следующие дни.</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>Чтение…</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln с</numerusform>
+            <numerusform>%Ln с</numerusform>
+            <numerusform>%Ln с</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>%1 процента</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1 ватт-часа</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln милливатт-час</numerusform>
+            <numerusform>%Ln милливатт-часа</numerusform>
+            <numerusform>%Ln милливатт-часов</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

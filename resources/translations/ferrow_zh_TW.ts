@@ -767,5 +767,153 @@
         <source>Notifications are turned off for Ferrow in the system&apos;s settings</source>
         <translation>系統設定中已關閉 Ferrow 的通知</translation>
     </message>
+    <message id="section.applications">
+        <source>Applications</source>
+        <translation>應用程式</translation>
+    </message>
+    <message id="apps.panel_title">
+        <source>Energy by application</source>
+        <translation>各應用程式能耗</translation>
+    </message>
+    <message id="apps.popover_title">
+        <source>Most energy this session</source>
+        <translation>本時段能耗最多的應用程式</translation>
+    </message>
+    <message id="apps.popover_none">
+        <source>Nothing measured yet this session</source>
+        <translation>本時段尚無測量資料</translation>
+    </message>
+    <message id="apps.period">
+        <source>Period</source>
+        <translation>時間範圍</translation>
+    </message>
+    <message id="apps.period_session">
+        <source>Session</source>
+        <translation>本時段</translation>
+    </message>
+    <message id="apps.period_today">
+        <source>Today</source>
+        <translation>今天</translation>
+    </message>
+    <message id="apps.period_7_days">
+        <source>7 days</source>
+        <translation>7 天</translation>
+    </message>
+    <message id="apps.period_30_days">
+        <source>30 days</source>
+        <translation>30 天</translation>
+    </message>
+    <message id="apps.covered">
+        <source>Over %1</source>
+        <translation>歷時 %1</translation>
+    </message>
+    <message id="apps.column_application">
+        <source>Application</source>
+        <translation>應用程式</translation>
+    </message>
+    <message id="apps.column_energy">
+        <source>Energy</source>
+        <translation>能耗</translation>
+    </message>
+    <message id="apps.column_mean_power">
+        <source>Mean power</source>
+        <translation>平均功率</translation>
+    </message>
+    <message id="apps.column_share">
+        <source>Share</source>
+        <translation>占比</translation>
+    </message>
+    <message id="apps.column_cpu_time">
+        <source>CPU time</source>
+        <translation>CPU 時間</translation>
+    </message>
+    <message id="apps.column_cpu_share">
+        <source>Share of CPU time</source>
+        <translation>CPU 時間占比</translation>
+    </message>
+    <message id="apps.sort_by_energy">
+        <source>Sort by energy</source>
+        <translation>依能耗排序</translation>
+    </message>
+    <message id="apps.sort_by_mean_power">
+        <source>Sort by mean power</source>
+        <translation>依平均功率排序</translation>
+    </message>
+    <message id="apps.self">
+        <source>Ferrow (this app)</source>
+        <translation>Ferrow（本應用程式）</translation>
+    </message>
+    <message id="apps.since_started">
+        <source>since it started</source>
+        <translation>自啟動以來</translation>
+    </message>
+    <message id="apps.others">
+        <source>System and other users</source>
+        <translation>系統和其他使用者</translation>
+    </message>
+    <message id="apps.rest">
+        <source>Other applications</source>
+        <translation>其他應用程式</translation>
+    </message>
+    <message id="apps.method_measured">
+        <source>Measured by the system for each application</source>
+        <translation>由系統依應用程式測量</translation>
+    </message>
+    <message id="apps.method_chip_share">
+        <source>Estimated: the processor&apos;s measured energy shared by each application&apos;s CPU time</source>
+        <translation>估算：處理器的實測能耗，依各應用程式的 CPU 時間分攤</translation>
+    </message>
+    <message id="apps.method_system_share">
+        <source>Estimated: the processor&apos;s share of the system&apos;s measured power, shared by CPU time</source>
+        <translation>估算：系統實測功率中處理器所占部分，依 CPU 時間分攤</translation>
+    </message>
+    <message id="apps.method_cpu_time">
+        <source>CPU time only: this machine does not measure energy</source>
+        <translation>僅 CPU 時間：此電腦不測量能耗</translation>
+    </message>
+    <message id="apps.estimated_legend">
+        <source>%1 marks an estimate</source>
+        <translation>%1 表示估算值</translation>
+    </message>
+    <message id="apps.estimated">
+        <source>estimated</source>
+        <translation>估算</translation>
+    </message>
+    <message id="apps.measured">
+        <source>measured</source>
+        <translation>實測</translation>
+    </message>
+    <message id="apps.none">
+        <source>Nothing recorded for this period yet</source>
+        <translation>此時段尚無記錄</translation>
+    </message>
+    <message id="apps.history_off">
+        <source>Ferrow keeps no history, so only the current session has a list. Turn on “Keep energy history” under History to keep the days to come.</source>
+        <translation>Ferrow 未保留歷史記錄，因此只有目前時段有列表。如需保留往後的資料，請在「歷史記錄」中開啟「保留能耗歷史」。</translation>
+    </message>
+    <message id="apps.reading">
+        <source>Reading…</source>
+        <translation>正在讀取…</translation>
+    </message>
+    <message id="apps.seconds" numerus="yes">
+        <source>%Ln s</source>
+        <translation>
+            <numerusform>%Ln 秒</numerusform>
+        </translation>
+    </message>
+    <message id="accessibility.percent">
+        <source>%1 percent</source>
+        <translation>百分之%1</translation>
+    </message>
+    <message id="accessibility.watt_hours">
+        <source>%1 watt-hours</source>
+        <translation>%1 瓦時</translation>
+    </message>
+    <message id="accessibility.milliwatt_hours" numerus="yes">
+        <source>%Ln mWh</source>
+        <translation>
+            <numerusform>%Ln 毫瓦時</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

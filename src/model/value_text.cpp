@@ -30,6 +30,21 @@ QString signedWattsText(double watts)
     return (watts > 0 ? QStringLiteral("+") : QString()) + QString::asprintf("%.1f W", watts);
 }
 
+QString energyText(std::optional<double> wattHours)
+{
+    if (!wattHours || !std::isfinite(*wattHours) || *wattHours < 0)
+        return absentText();
+    const double wh = *wattHours + 0.0; // -0 reads as 0
+    // Each step is taken on the figure as it would be rounded, so no figure reads "100 mWh" or "1.00 Wh".
+    if (std::round(wh * 1000) < 100)
+        return QString::asprintf("%.0f mWh", wh * 1000);
+    if (wh < 0.995)
+        return QString::asprintf("%.2f Wh", wh);
+    if (wh < 99.95)
+        return QString::asprintf("%.1f Wh", wh);
+    return QString::asprintf("%.0f Wh", wh);
+}
+
 namespace {
 
 // The long format is the one with seconds; it also names the time zone ("t", maybe in brackets

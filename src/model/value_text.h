@@ -18,6 +18,9 @@ QString formatFigure(std::optional<double> value, const char *format);
 QString signedCurrentText(std::optional<double> currentA);
 // "+12.3 W" into the battery, "-4.0 W" out of it; the dash for a value that is not finite.
 QString signedWattsText(double watts);
+// Energy as precise as its size calls for: "123 Wh", "12.4 Wh", "0.83 Wh", "35 mWh"; the dash for
+// an absent, negative or non-finite value.
+QString energyText(std::optional<double> wattHours);
 
 enum class Seconds { shown, hidden };
 // A clock time in the locale's own style, without the time zone (a clock on this machine has no

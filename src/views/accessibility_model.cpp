@@ -9,15 +9,17 @@
 #include <QRegularExpression>
 
 #include <optional>
+#include <utility>
 
 namespace ferrow {
 namespace {
 
-// The figures of the fixed technical formats ("%.1f W", "%.2f V", "%.3f A", "%.1f °C") and the
-// sample rate, wherever they stand in a text: "USB-C PD · 20.1 V" has one.
+// The figures of the fixed technical formats ("%.1f W", "%.2f V", "%.3f A", "%.1f °C"), energies,
+// shares and the sample rate, wherever they stand in a text: "USB-C PD · 20.1 V" has one.
 const QRegularExpression &figurePattern()
 {
-    static const QRegularExpression pattern(QStringLiteral("(?<![\\w.])([+-]?)(\\d+)(?:\\.(\\d+))? (W|V|A|\u00B0C|Hz)(?!\\w)"));
+    static const QRegularExpression pattern(
+        QStringLiteral("(?<![\\w.])([+-]?)(\\d+)(?:\\.(\\d+))?(?: (mWh|Wh|W|V|A|\u00B0C|Hz)(?!\\w)|(%))"));
     return pattern;
 }
 
@@ -25,6 +27,10 @@ const char *unitKey(QStringView unit)
 {
     if (unit == u"W")
         return "accessibility.watts";
+    if (unit == u"Wh")
+        return "accessibility.watt_hours";
+    if (unit == u"%")
+        return "accessibility.percent";
     if (unit == u"V")
         return "accessibility.volts";
     if (unit == u"A")
@@ -34,9 +40,13 @@ const char *unitKey(QStringView unit)
 
 QString spokenFigure(const QRegularExpressionMatch &match, const QLocale &locale)
 {
-    const QString sign = match.captured(1), whole = match.captured(2), decimals = match.captured(3), unit = match.captured(4);
-    if (unit == u"Hz") // the sample rate, a count; no other is shown
-        return sign.isEmpty() && decimals.isEmpty() ? localizedCount("accessibility.hertz", whole.toLongLong()) : match.captured(0);
+    const QString sign = match.captured(1), whole = match.captured(2), decimals = match.captured(3);
+    const QString unit = match.hasCaptured(5) ? match.captured(5) : match.captured(4);
+    // The sample rate and small energies are whole counts; no other is shown.
+    for (const auto &[countUnit, key] : {std::pair{QStringView(u"Hz"), "accessibility.hertz"}, std::pair{QStringView(u"mWh"), "accessibility.milliwatt_hours"}}) {
+        if (unit == countUnit)
+            return sign.isEmpty() && decimals.isEmpty() ? localizedCount(key, whole.toLongLong()) : match.captured(0);
+    }
     // Shown with a point whatever the language; heard in the locale's own digits.
     const double magnitude = QString(whole + u'.' + decimals + u'0').toDouble();
     QString figure = locale.toString(magnitude, 'f', static_cast<int>(decimals.size()));

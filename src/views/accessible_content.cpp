@@ -1,5 +1,6 @@
 #include "views/accessible_content.h"
 
+#include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QLabel>
 #include <QPointer>
@@ -69,6 +70,24 @@ public:
     }
 
     int childCount() const override { return m_hidden ? 0 : partCount() + QAccessibleWidget::childCount(); }
+
+    // A painted button is pressed as any other.
+    QStringList actionNames() const override
+    {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (!m_hidden && qobject_cast<QAbstractButton *>(widget()))
+            names.prepend(pressAction());
+        return names;
+    }
+
+    void doAction(const QString &action) override
+    {
+        if (auto *button = qobject_cast<QAbstractButton *>(widget()); button && action == pressAction() && !m_hidden) {
+            button->click();
+            return;
+        }
+        QAccessibleWidget::doAction(action);
+    }
 
     QAccessibleInterface *child(int index) const override
     {

@@ -6,6 +6,7 @@
 #include "views/divider.h"
 #include "views/history_model.h"
 #include "views/meter_row.h"
+#include "views/popover/apps_card.h"
 #include "views/popover/details_button.h"
 #include "views/popover/meter_caption.h"
 #include "views/popover/popover_header.h"
@@ -43,6 +44,7 @@ DashboardView::DashboardView(QWidget *parent)
     , m_flow(new PowerFlowView)
     , m_flowDivider(new Divider)
     , m_battery(new BatteryStatusView)
+    , m_apps(new AppsCard)
     , m_telemetry(new TelemetryCard)
     , m_details(new DetailsButton)
     , m_settings(new SettingsRow)
@@ -53,10 +55,12 @@ DashboardView::DashboardView(QWidget *parent)
     m_meters->setContentsMargins(8, 8, 8, 5);
     m_flow->setObjectName(QStringLiteral("flow"));
     m_battery->setObjectName(QStringLiteral("battery"));
+    m_apps->setObjectName(QStringLiteral("apps"));
     m_telemetry->setObjectName(QStringLiteral("telemetry"));
     m_details->setObjectName(QStringLiteral("details"));
     m_footer->noteButton()->setObjectName(QStringLiteral("launchAtLoginNote"));
     connect(m_details, &QAbstractButton::clicked, this, &DashboardView::detailsRequested);
+    connect(m_apps, &AppsCard::applicationsRequested, this, &DashboardView::applicationsRequested);
     connect(m_settings, &SettingsRow::launchAtLoginToggled, this, &DashboardView::launchAtLoginToggled);
     connect(m_settings, &SettingsRow::showPowerInMenuBarToggled, this, &DashboardView::showPowerInMenuBarToggled);
     connect(m_footer, &ViewFooter::noteClicked, this, &DashboardView::launchAtLoginNoteClicked);
@@ -71,6 +75,7 @@ DashboardView::DashboardView(QWidget *parent)
     column->addWidget(m_flowDivider);
     m_batteryBox = padded(m_battery, 8, 8, 8, 8);
     column->addWidget(m_batteryBox);
+    column->addWidget(padded(m_apps, 8, 0, 8, 8));
     // The pieces fill the popover's height exactly; a point more anywhere squeezes whatever is tallest.
     column->addWidget(padded(m_telemetry, 8, 0, 8, 0));
     column->addWidget(padded(m_details, 8, 5, 8, 0));
@@ -107,6 +112,11 @@ void DashboardView::setCurrentSession(std::optional<SessionRecord> session, Unix
     showSession();
 }
 
+void DashboardView::setTopApplications(const AppEnergyList &session)
+{
+    m_apps->setSession(session);
+}
+
 void DashboardView::showSession()
 {
     const bool shown = m_session && m_hasBattery;
@@ -125,6 +135,7 @@ void DashboardView::setFerrowPalette(const FerrowPalette &palette)
     m_flow->setFerrowPalette(palette);
     m_flowDivider->setFerrowPalette(palette);
     m_battery->setFerrowPalette(palette);
+    m_apps->setFerrowPalette(palette);
     m_telemetry->setFerrowPalette(palette);
     m_details->setFerrowPalette(palette);
     m_settings->setFerrowPalette(palette);

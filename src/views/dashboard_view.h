@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/app_energy.h"
 #include "history/history_records.h"
 #include "model/power_snapshot.h"
 #include "views/ferrow_palette.h"
@@ -10,6 +11,7 @@
 
 namespace ferrow {
 
+class AppsCard;
 class BatteryStatusView;
 class DetailsButton;
 class Divider;
@@ -21,18 +23,21 @@ class SettingsRow;
 class TelemetryCard;
 class ViewFooter;
 
-// The popover's content on a 430 × 560 panel: header, meters, flow diagram, battery card,
-// telemetry, the details button, the two settings with the version, and the website link.
+// The popover's content on a 430 × 650 panel: header, meters, flow diagram, battery card, the
+// applications that used the most this session, telemetry, the details button, the two settings
+// with the version, and the website link.
 class DashboardView : public QWidget {
     Q_OBJECT
 public:
-    static constexpr QSize kSize{430, 560};
+    static constexpr QSize kSize{430, 650};
 
     explicit DashboardView(QWidget *parent = nullptr);
 
     void setSnapshot(const PowerSnapshot &snapshot);
     // The stretch on battery or on the adapter so far, under the battery card's figures.
     void setCurrentSession(std::optional<SessionRecord> session, UnixSeconds now);
+    // The current session's applications; the popover shows the three that used the most.
+    void setTopApplications(const AppEnergyList &session);
     void setFerrowPalette(const FerrowPalette &palette);
     void setSubtitle(const QString &subtitle);
     void setAlertLine(const QString &line);
@@ -54,6 +59,8 @@ public:
 
 signals:
     void detailsRequested();
+    // A line of the applications was clicked: the details window's list of them is wanted.
+    void applicationsRequested();
     void launchAtLoginToggled(bool enabled);
     void launchAtLoginNoteClicked();
     void showPowerInMenuBarToggled(bool shown);
@@ -77,6 +84,7 @@ private:
     Divider *m_flowDivider;
     QWidget *m_batteryBox = nullptr;
     BatteryStatusView *m_battery;
+    AppsCard *m_apps;
     TelemetryCard *m_telemetry;
     DetailsButton *m_details;
     SettingsRow *m_settings;

@@ -179,6 +179,14 @@ QColor FerrowPalette::focusRing(const QColor &ground) const
     return readableOn(accent(), ground, kControlRatio);
 }
 
+QColor FerrowPalette::monogramTile(std::size_t index) const
+{
+    // The system's hues and its grey, told apart at a glance; only their depth is ours.
+    static const QColor hues[kMonogramTiles] = {{0, 122, 255}, {88, 86, 214}, {175, 82, 222}, {142, 142, 147},
+                                                 {255, 59, 48},  {255, 149, 0}, {52, 199, 89}, {48, 176, 199}};
+    return readableOn(hues[index % kMonogramTiles], Qt::white, kLegibleRatio);
+}
+
 QColor FerrowPalette::color(ColorRole role) const
 {
     switch (role) {
@@ -239,6 +247,8 @@ QList<ColourPair> colourPairs(const FerrowPalette &palette)
         pairs.push_back({QStringLiteral("row value in %1 on report panel").arg(text.name), readableOn(text.color, palette.reportPanelBackground()),
                          palette.reportPanelBackground(), 4.5, false});
     pairs.push_back({QStringLiteral("sidebar header"), readableOn(palette.secondaryText(), palette.sidebarBackground()), palette.sidebarBackground(), 4.5, false});
+    for (std::size_t tile = 0; tile < kMonogramTiles; ++tile)
+        pairs.push_back({QStringLiteral("monogram letter on tile %1").arg(tile), Qt::white, palette.monogramTile(tile), 4.5, false});
     const Ink tiles[] = {{QLatin1String("VBUS"), FixedColor::meterInput}, {QLatin1String("IBUS"), FixedColor::meterCurrent}, {QLatin1String("PWR"), FixedColor::meterPower}};
     QColor code = Qt::white;
     code.setAlphaF(0.9f);

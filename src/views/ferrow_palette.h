@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+#include <cstddef>
+
 namespace ferrow {
 
 enum class ColorScheme { light, dark };
@@ -50,6 +52,9 @@ struct FerrowPalette {
     // The outline of a control (a check box, a focus ring) that reads at 3:1 on ground.
     QColor controlOutline(const QColor &ground) const;
     QColor focusRing(const QColor &ground) const;
+    // The tile of an application's monogram, of kMonogramTiles, under its white letter: a tone of
+    // the tile's hue that white reads on in every appearance.
+    QColor monogramTile(std::size_t index) const;
 };
 
 // One colour drawn on another somewhere in the views, and the least contrast it must reach.
@@ -84,5 +89,7 @@ inline const QColor macBlue{10, 132, 255};
 inline const QColor chargeGreen{52, 199, 89}; // the system's green: the battery panels' titles and bars
 inline const QColor cellsAccent{52, 167, 126}; // the cells panel's title
 } // namespace FixedColor
+
+inline constexpr std::size_t kMonogramTiles = 8;
 
 } // namespace ferrow

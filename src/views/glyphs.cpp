@@ -142,6 +142,28 @@ void paintGlyph(QPainter &painter, Glyph glyph, const QRectF &box, const QColor 
         for (const double y : {0.32, 0.46, 0.60})
             painter.drawLine(QPointF(0.15, y), QPointF(0.27, y));
         break;
+    case Glyph::apps: // a launcher's grid of applications
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        for (const double x : {0.08, 0.38, 0.68})
+            for (const double y : {0.08, 0.38, 0.68})
+                painter.drawPath(rounded(x, y, 0.24, 0.24, 0.06));
+        break;
+    case Glyph::chip: // the processor, with its pins
+        painter.setPen(stroke);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(rounded(0.22, 0.22, 0.56, 0.56, 0.08));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawPath(rounded(0.38, 0.38, 0.24, 0.24, 0.04));
+        painter.setPen(QPen(color, 0.07, Qt::SolidLine, Qt::RoundCap));
+        for (const double at : {0.36, 0.50, 0.64}) {
+            painter.drawLine(QPointF(at, 0.05), QPointF(at, 0.16));
+            painter.drawLine(QPointF(at, 0.84), QPointF(at, 0.95));
+            painter.drawLine(QPointF(0.05, at), QPointF(0.16, at));
+            painter.drawLine(QPointF(0.84, at), QPointF(0.95, at));
+        }
+        break;
     }
     painter.restore();
 }

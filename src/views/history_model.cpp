@@ -214,7 +214,7 @@ SessionRowText sessionRowText(const SessionRecord &s, const QLocale &locale)
         localizedText(s.externalPower ? "session.on_adapter" : "session.on_battery"),
         started + QStringLiteral(" \u00B7 ") + sessionDurationText(s.end - s.start),
         percentText(s.startPercent) + QStringLiteral(" \u2192 ") + percentText(s.endPercent),
-        QString::asprintf("%.1f Wh", s.energyWh),
+        energyText(s.energyWh),
         localizedFormatText("session.mean_peak", {formatFigure(s.meanPowerW(), "%.1f W"), formatFigure(s.peakPowerW, "%.1f W")}),
     };
 }
@@ -222,7 +222,7 @@ SessionRowText sessionRowText(const SessionRecord &s, const QLocale &locale)
 QString currentSessionText(const SessionRecord &s, UnixSeconds now)
 {
     return localizedFormatText(s.externalPower ? "session.on_adapter_for" : "session.on_battery_for",
-                               {sessionDurationText(now - s.start), QString::asprintf("%.1f Wh", s.energyWh)});
+                               {sessionDurationText(now - s.start), energyText(s.energyWh)});
 }
 
 std::vector<BatterySeries> batterySeries(const std::vector<BatteryDayRecord> &days)

@@ -38,6 +38,8 @@ const char *sectionTitleKey(MainSection section)
         return "section.cells";
     case MainSection::energy:
         return "section.energy_history";
+    case MainSection::applications:
+        return "section.applications";
     case MainSection::history:
         return "section.device";
     }

@@ -17,10 +17,12 @@ class QTime;
 namespace ferrow {
 
 // The details window's sections, in the order of the report.
-// history is the device's own record; energy is the energy history Ferrow keeps.
-enum class MainSection { overview, power, battery, cells, energy, history };
-inline constexpr std::array<MainSection, 6> kMainSections = {MainSection::overview, MainSection::power, MainSection::battery,
-                                                             MainSection::cells,    MainSection::energy, MainSection::history};
+// history is the device's own record; energy is the energy history Ferrow keeps; applications is
+// where that energy went.
+enum class MainSection { overview, power, battery, cells, energy, applications, history };
+inline constexpr std::array<MainSection, 7> kMainSections = {MainSection::overview, MainSection::power,        MainSection::battery,
+                                                             MainSection::cells,    MainSection::energy,       MainSection::applications,
+                                                             MainSection::history};
 const char *sectionTitleKey(MainSection section);
 
 // The section the sidebar follows while the user scrolls: the last one whose top has reached the

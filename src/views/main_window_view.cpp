@@ -9,6 +9,7 @@
 #include "views/history_model.h"
 #include "views/power_history_chart.h"
 #include "views/report/alerts_panel.h"
+#include "views/report/applications_panel.h"
 #include "views/report/battery_health_panel.h"
 #include "views/report/battery_panel.h"
 #include "views/report/cells_panel.h"
@@ -211,6 +212,10 @@ QWidget *MainWindowView::buildDetail()
     m_batteryHealth = new BatteryHealthPanel;
     block(MainSection::energy, {m_keepHistory, m_historyCaption, named(m_energy, "energyPanel"), named(m_sessions, "sessionsPanel"),
                                 named(m_batteryHealth, "batteryHealthPanel")});
+    m_applications = new ApplicationsPanel;
+    m_applications->setHistoryEnabled(m_historyEnabled);
+    connect(m_applications, &ApplicationsPanel::periodRequested, this, &MainWindowView::applicationsPeriodRequested);
+    block(MainSection::applications, {named(m_applications, "applicationsPanel")});
     m_device = new DevicePanel;
     m_alerts = new AlertsPanel;
     connect(m_alerts, &AlertsPanel::settingsChanged, this, &MainWindowView::alertSettingsChanged);
@@ -270,6 +275,7 @@ void MainWindowView::setHistoryEnabled(bool enabled)
 {
     m_historyEnabled = enabled;
     m_keepHistory->setChecked(enabled);
+    m_applications->setHistoryEnabled(enabled);
     showHistory();
 }
 
@@ -322,6 +328,16 @@ void MainWindowView::setNotificationNote(const QString &note)
     updateEndSpacer();
 }
 
+void MainWindowView::setApplications(AppPeriod period, const AppEnergyList &list)
+{
+    m_applications->setList(period, list);
+}
+
+AppPeriod MainWindowView::applicationsPeriod() const
+{
+    return m_applications->period();
+}
+
 void MainWindowView::setReduceMotion(bool reduceMotion)
 {
     m_reduceMotion = reduceMotion;
@@ -354,7 +370,7 @@ void MainWindowView::applyPalette()
     m_sidebar->setFerrowPalette(p);
     for (SectionHeading *heading : m_headings)
         heading->setFerrowPalette(p);
-    for (ReportPanel *panel : std::initializer_list<ReportPanel *>{m_distribution, m_chart, m_battery, m_cells, m_energy, m_sessions, m_batteryHealth, m_device, m_alerts})
+    for (ReportPanel *panel : std::initializer_list<ReportPanel *>{m_distribution, m_chart, m_battery, m_cells, m_energy, m_sessions, m_batteryHealth, m_applications, m_device, m_alerts})
         panel->setFerrowPalette(p);
     m_footer->setFerrowPalette(p);
     m_meters->setFerrowPalette(p);

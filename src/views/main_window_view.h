@@ -1,6 +1,7 @@
 #pragma once
 
 #include "alerts/alert_settings.h"
+#include "apps/app_energy.h"
 #include "history/history_recorder.h"
 #include "model/power_history.h"
 #include "model/power_snapshot.h"
@@ -23,6 +24,7 @@ class QSplitter;
 namespace ferrow {
 
 class AlertsPanel;
+class ApplicationsPanel;
 class BatteryHealthPanel;
 class BatteryPanel;
 class CellsPanel;
@@ -61,6 +63,10 @@ public:
     void setAlertSettings(const AlertSettings &settings);
     // Why alerts may not reach the user (empty hides it).
     void setNotificationNote(const QString &note);
+    // The applications' energy over a period; a list for a period other than the one the
+    // Applications section shows is left alone.
+    void setApplications(AppPeriod period, const AppEnergyList &list);
+    AppPeriod applicationsPeriod() const;
 
     MainSection selection() const { return m_selection; }
     void pickSection(MainSection section); // as a click on its sidebar row
@@ -76,6 +82,8 @@ signals:
     void historyEnabledToggled(bool enabled);
     // The user changed which alerts to give, or a threshold.
     void alertSettingsChanged(const AlertSettings &settings);
+    // The user picked a period in the Applications section; answer with setApplications.
+    void applicationsPeriodRequested(AppPeriod period);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -121,6 +129,7 @@ private:
     EnergyChartPanel *m_energy = nullptr;
     SessionsPanel *m_sessions = nullptr;
     BatteryHealthPanel *m_batteryHealth = nullptr;
+    ApplicationsPanel *m_applications = nullptr;
     DevicePanel *m_device = nullptr;
     AlertsPanel *m_alerts = nullptr;
     ViewFooter *m_footer = nullptr;

@@ -39,12 +39,12 @@ INSIDE = "--inside-session"
 FLOW = "Adapter 46.4 watts to system 14.6 watts and battery 31.8 watts"
 SYSTEM_TOTAL = "System total, 14.6 watts"
 
-# Headings by text id: the popover's panel titles, the details window's section headings, its
-# panels' titles and the device panel's sub-heading.
-POPOVER_HEADINGS = ["power.live_flow", "battery.status"]
-WINDOW_HEADINGS = ["section.power", "section.battery", "section.cells", "section.energy_history", "section.device",
-                   "power.distribution", "power_history.title", "battery.title", "cells.status", "device.title",
-                   "device.history"]
+# Headings by text id: the popover's panel and card titles, the details window's section headings,
+# its panels' titles and the device panel's sub-heading.
+POPOVER_HEADINGS = ["power.live_flow", "battery.status", "apps.popover_title"]
+WINDOW_HEADINGS = ["section.power", "section.battery", "section.cells", "section.energy_history", "section.applications",
+                   "section.device", "power.distribution", "power_history.title", "battery.title", "cells.status",
+                   "apps.panel_title", "device.title", "device.history"]
 
 
 def fail(message):

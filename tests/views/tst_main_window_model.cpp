@@ -160,14 +160,14 @@ private slots:
 
     void followingTheScroll_data()
     {
-        QTest::addColumn<QList<double>>("offsets"); // overview, power, battery, cells, energy, history
+        QTest::addColumn<QList<double>>("offsets"); // overview, power, battery, cells, energy, applications, history
         QTest::addColumn<int>("section");
-        QTest::newRow("battery at 60, power at -300") << QList<double>{-700, -300, 60, 500, 900, 1300} << int(MainSection::power);
-        QTest::newRow("battery at 52 exactly") << QList<double>{-700, -300, 52, 500, 900, 1300} << int(MainSection::battery);
-        QTest::newRow("battery at 52.5: not yet") << QList<double>{-700, -300, 52.5, 500, 900, 1300} << int(MainSection::power);
-        QTest::newRow("at the top") << QList<double>{24, 200, 700, 1100, 1500, 1900} << int(MainSection::overview);
-        QTest::newRow("none reached: the nearest") << QList<double>{80, 400, 700, 1100, 1500, 1900} << int(MainSection::overview);
-        QTest::newRow("scrolled to the end") << QList<double>{-2400, -2000, -1600, -900, -400, 24} << int(MainSection::history);
+        QTest::newRow("battery at 60, power at -300") << QList<double>{-700, -300, 60, 500, 900, 1100, 1300} << int(MainSection::power);
+        QTest::newRow("battery at 52 exactly") << QList<double>{-700, -300, 52, 500, 900, 1100, 1300} << int(MainSection::battery);
+        QTest::newRow("battery at 52.5: not yet") << QList<double>{-700, -300, 52.5, 500, 900, 1100, 1300} << int(MainSection::power);
+        QTest::newRow("at the top") << QList<double>{24, 200, 700, 1100, 1500, 1700, 1900} << int(MainSection::overview);
+        QTest::newRow("none reached: the nearest") << QList<double>{80, 400, 700, 1100, 1500, 1700, 1900} << int(MainSection::overview);
+        QTest::newRow("scrolled to the end") << QList<double>{-2400, -2000, -1600, -900, -400, -200, 24} << int(MainSection::history);
     }
 
     void followingTheScroll()

@@ -1,6 +1,9 @@
 #include "app/text_table.h"
 #include "model/localized_text.h"
+#include "model/value_text.h"
 #include "views/accessibility_model.h"
+#include "views/app_painting.h"
+#include "views/apps_model.h"
 #include "views/battery_status_model.h"
 #include "views/dashboard_model.h"
 #include "views/ferrow_palette.h"
@@ -16,6 +19,7 @@ using namespace ferrow;
 Q_DECLARE_METATYPE(ferrow::PowerSnapshot)
 Q_DECLARE_METATYPE(QLocale)
 Q_DECLARE_METATYPE(ferrow::ColourPair)
+Q_DECLARE_METATYPE(ferrow::AppEnergyList)
 
 namespace {
 
@@ -41,6 +45,29 @@ PowerSnapshot notebook(bool external, bool charging, double flowW)
 QString dash()
 {
     return QStringLiteral("\u2014");
+}
+
+using Kind = AppEnergy::Kind;
+
+AppEnergy app(const char *name, std::optional<double> energyJ, double cpuTimeS = 1, Kind kind = Kind::application, double coveredS = 3600)
+{
+    return {kind, QLatin1String(name), QLatin1String(name), {}, energyJ, cpuTimeS, coveredS, AttributionMethod::chipShare};
+}
+
+// Texts written as UTF-8 literals.
+QStringList lines(std::initializer_list<const char *> texts)
+{
+    QStringList list;
+    for (const char *text : texts)
+        list << QString::fromUtf8(text);
+    return list;
+}
+
+AppEnergyList appList(std::vector<AppEnergy> apps, AttributionMethod method = AttributionMethod::chipShare)
+{
+    for (AppEnergy &a : apps)
+        a.method = method;
+    return {std::move(apps), 3600, method};
 }
 
 } // namespace
@@ -249,6 +276,38 @@ private slots:
         QTest::newRow("temperature below zero") << batteryTemperatureText(-4.0) << QStringLiteral("-4.0 \u00B0C");
         QTest::newRow("temperature absent") << batteryTemperatureText(std::nullopt) << dash();
         QTest::newRow("current under 1 A keeps its sign") << signedCurrentText(0.5) << QStringLiteral("+0.500 A");
+        // Energies and shares as precise as their size calls for, each step taken on the rounded figure.
+        QTest::newRow("energy in mWh") << energyText(0.035) << QStringLiteral("35 mWh");
+        QTest::newRow("energy just under 0.1 Wh") << energyText(0.0994) << QStringLiteral("99 mWh");
+        QTest::newRow("energy rounding up to 0.1 Wh") << energyText(0.0995) << QStringLiteral("0.10 Wh");
+        QTest::newRow("energy under 1 Wh") << energyText(0.834) << QStringLiteral("0.83 Wh");
+        QTest::newRow("energy rounding up to 1 Wh") << energyText(0.996) << QStringLiteral("1.0 Wh");
+        QTest::newRow("energy rounding up to 100 Wh") << energyText(99.96) << QStringLiteral("100 Wh");
+        QTest::newRow("energy of minus zero") << energyText(-0.0) << QStringLiteral("0 mWh");
+        QTest::newRow("energy below zero") << energyText(-0.2) << dash();
+        QTest::newRow("energy not a number") << energyText(std::numeric_limits<double>::quiet_NaN()) << dash();
+        QTest::newRow("share") << shareText(0.234) << QStringLiteral("23%");
+        QTest::newRow("share under 10%") << shareText(0.042) << QStringLiteral("4.2%");
+        QTest::newRow("share rounding up to 10%") << shareText(0.0996) << QStringLiteral("10%");
+        QTest::newRow("share too small to show") << shareText(0.0004) << QStringLiteral("<0.1%");
+        QTest::newRow("share of nothing") << shareText(0.0) << QStringLiteral("0%");
+        QTest::newRow("CPU time under a minute") << cpuTimeText(59.4) << QStringLiteral("59 s");
+        QTest::newRow("CPU time rounding to a minute") << cpuTimeText(59.6) << QStringLiteral("1 min");
+        // A line of applications as a screen reader hears it, in the popover and in the window.
+        AppRow row{Kind::application, {}, {}, QStringLiteral("Browser"), {}, QStringLiteral("4.1 Wh"), QStringLiteral("1.2 W"), QStringLiteral("23%"), 0.23, true, false};
+        QTest::newRow("line, spoken") << spokenAppRow(row, false, true) << QStringLiteral("Browser, 23 percent, 4.1 watt-hours, estimated");
+        row = {Kind::self, {}, {}, QStringLiteral("Ferrow (this app)"), QStringLiteral("since it started"), QStringLiteral("35 mWh"), QStringLiteral("0.0 W"),
+               QStringLiteral("0.4%"), 0.004, false, true};
+        QTest::newRow("line with its note and mean power, spoken") << spokenAppRow(row, true, true)
+            << QStringLiteral("Ferrow (this app), since it started, 0.4 percent, 35 milliwatt-hours, 0.0 watts, measured");
+        row.amount = QStringLiteral("42 s");
+        QTest::newRow("line of CPU time, spoken") << spokenAppRow(row, true, false) << QStringLiteral("Ferrow (this app), since it started, 0.4 percent, 42 s");
+        // A monogram's letter: the name's first letter or figure, whole, as a capital where it has one of a letter.
+        QTest::newRow("monogram") << monogramLetter(QStringLiteral("firefox")) << QStringLiteral("F");
+        QTest::newRow("monogram past signs") << monogramLetter(QStringLiteral("  (beta) tool")) << QStringLiteral("B");
+        QTest::newRow("monogram of a letter outside the basic plane") << monogramLetter(QStringLiteral("\U0001D538pp")) << QStringLiteral("\U0001D538");
+        QTest::newRow("monogram whose capital is two letters") << monogramLetter(QStringLiteral("\u00DFeta")) << QStringLiteral("\u00DF");
+        QTest::newRow("monogram without a letter") << monogramLetter(QStringLiteral("\U0001F3B5")) << QStringLiteral("?");
     }
 
     void texts()
@@ -273,7 +332,9 @@ private slots:
         QTest::newRow("a capacity, singular") << english << localizedFormat("capacity.mah", {1}) << QStringLiteral("1 milliampere-hour");
         QTest::newRow("the sample rate") << english << QStringLiteral("1 Hz") << QStringLiteral("1 hertz");
         QTest::newRow("a figure inside a text") << english << QStringLiteral("USB-C PD \u00B7 20.1 V") << QStringLiteral("USB-C PD \u00B7 20.1 volts");
-        QTest::newRow("another unit that starts alike") << english << QStringLiteral("8.4 Wh") << QStringLiteral("8.4 Wh");
+        QTest::newRow("another unit that starts alike") << english << QStringLiteral("8.4 Wh") << QStringLiteral("8.4 watt-hours");
+        QTest::newRow("milliwatt-hours, a count") << english << QStringLiteral("1 mWh") << QStringLiteral("1 milliwatt-hour");
+        QTest::newRow("a share") << english << QStringLiteral("4.2%") << QStringLiteral("4.2 percent");
         QTest::newRow("words") << english << QStringLiteral("Charging") << QStringLiteral("Charging");
         QTest::newRow("German digits") << german << QStringLiteral("+1.500 A") << QStringLiteral("+1,500 amperes");
         QTest::newRow("German capacity") << german << QStringLiteral("6.249 mAh") << QStringLiteral("6.249 milliampere-hours");
@@ -355,6 +416,104 @@ private slots:
         QFETCH(bool, announced);
         QCOMPARE(liveStatusText(after), status);
         QCOMPARE(isAnnouncedChange(before, after), announced);
+    }
+
+    // Lines as "name|amount|mean power|share|marks": ~ estimated, ^ pinned at the foot.
+    void applicationRows_data()
+    {
+        QTest::addColumn<AppEnergyList>("list");
+        QTest::addColumn<int>("sort");
+        QTest::addColumn<int>("ranked"); // 0: the popover's three
+        QTest::addColumn<QStringList>("rows");
+        const int byEnergy = int(AppSort::energy), byPower = int(AppSort::meanPower);
+
+        const AppEnergyList ties = appList({app("Beta", 3600, 5), app("Eps", 7200, 10), app("alpha", 3600, 5), app("Gamma", 3600, 9), app("Delta", std::nullopt, 50)});
+        QTest::newRow("ties: the more CPU time, then the name; no energy last") << ties << byEnergy << 12
+            << lines({"Eps|2.0 Wh|2.0 W|40%|~", "Gamma|1.0 Wh|1.0 W|20%|~", "alpha|1.0 Wh|1.0 W|20%|~", "Beta|1.0 Wh|1.0 W|20%|~", "Delta|\u2014|\u2014|63%|"});
+
+        const AppEnergyList spans = appList({app("Long", 3600), app("Short", 1800, 1, Kind::application, 600)}, AttributionMethod::measured);
+        QTest::newRow("by energy") << spans << byEnergy << 12 << lines({"Long|1.0 Wh|1.0 W|67%|", "Short|0.50 Wh|3.0 W|33%|"});
+        QTest::newRow("by mean power: over the time each covers") << spans << byPower << 12 << lines({"Short|0.50 Wh|3.0 W|33%|", "Long|1.0 Wh|1.0 W|67%|"});
+
+        const AppEnergyList measured = appList({app("", 36000, 0, Kind::others), app("Big", 3600), app("", 360, 1, Kind::rest), app("Ferrow", 1800, 1, Kind::self)},
+                                               AttributionMethod::measured);
+        QTest::newRow("measured: ranked in place, the remainders at the foot, the system's estimated") << measured << byEnergy << 12
+            << lines({"Big|1.0 Wh|1.0 W|8.6%|", "Ferrow (this app)|0.50 Wh|0.5 W|4.3%|", "Other applications|0.10 Wh|0.1 W|0.9%|",
+                           "System and other users|10.0 Wh|10.0 W|86%|~"});
+
+        const AppEnergyList many = appList({app("X", 3600), app("Y", 1800), app("Z", 720, 2), app("Ferrow", 36, 1, Kind::self, 1800), app("", 360, 1, Kind::rest),
+                                            app("", 1800, 0, Kind::others)});
+        QTest::newRow("past the ranked: folded into the rest, this program pinned") << many << byEnergy << 2
+            << lines({"X|1.0 Wh|1.0 W|43%|~", "Y|0.50 Wh|0.5 W|22%|~", "Other applications|0.30 Wh|0.3 W|13%|~", "System and other users|0.50 Wh|0.5 W|22%|~",
+                           "Ferrow (this app) \u00B7 since it started|10 mWh|0.0 W|0.4%|~^"});
+        QTest::newRow("popover: applications only") << many << byEnergy << 0
+            << lines({"X|1.0 Wh|1.0 W|43%|~", "Y|0.50 Wh|0.5 W|22%|~", "Z|0.20 Wh|0.2 W|8.7%|~"});
+        QTest::newRow("popover: this program ranks, nothing used is left out")
+            << appList({app("Idle", 0, 0), app("Ferrow", 360, 1, Kind::self), app("Busy", 720), app("", 5000, 0, Kind::others)}) << byEnergy << 0
+            << lines({"Busy|0.20 Wh|0.2 W|12%|~", "Ferrow (this app)|0.10 Wh|0.1 W|5.9%|~"});
+
+        const AppEnergyList cpu = appList({app("Shell", std::nullopt, 30), app("", std::nullopt, 30, Kind::others), app("Editor", std::nullopt, 90),
+                                           app("Ferrow", std::nullopt, 0.4, Kind::self)},
+                                          AttributionMethod::cpuTime);
+        QTest::newRow("CPU time only: by it whatever the sort, no marks") << cpu << byPower << 12
+            << lines({"Editor|1 min||60%|", "Shell|30 s||20%|", "Ferrow (this app)|0 s||0.3%|", "System and other users|30 s||20%|"});
+        QTest::newRow("nothing") << AppEnergyList{} << byEnergy << 12 << QStringList();
+    }
+
+    void applicationRows()
+    {
+        QFETCH(AppEnergyList, list);
+        QFETCH(int, sort);
+        QFETCH(int, ranked);
+        QFETCH(QStringList, rows);
+        QStringList actual;
+        for (const AppRow &row : ranked > 0 ? appRows(list, AppSort(sort), std::size_t(ranked)) : topAppRows(list)) {
+            const QString name = row.note.isEmpty() ? row.name : row.name + QStringLiteral(" \u00B7 ") + row.note;
+            actual << QStringLiteral("%1|%2|%3|%4|%5%6").arg(name, row.amount, row.meanPower, row.share, row.estimated ? QStringLiteral("~") : QString(),
+                                                              row.pinned ? QStringLiteral("^") : QString());
+        }
+        QCOMPARE(actual, rows);
+    }
+
+    void applicationListStates_data()
+    {
+        QTest::addColumn<int>("period");
+        QTest::addColumn<bool>("historyEnabled");
+        QTest::addColumn<AppEnergyList>("list");
+        QTest::addColumn<int>("state");
+        const AppEnergyList used = appList({app("Mail", 36)}), idle = appList({app("Mail", 0, 0), app("", 0, 0, Kind::others)});
+        QTest::newRow("session, history off: nothing yet") << int(AppPeriod::session) << false << AppEnergyList{} << int(AppListState::empty);
+        QTest::newRow("today, history off") << int(AppPeriod::today) << false << AppEnergyList{} << int(AppListState::historyOff);
+        QTest::newRow("today, history off, yet a list") << int(AppPeriod::today) << false << used << int(AppListState::shown);
+        QTest::newRow("30 days, nothing used") << int(AppPeriod::thirtyDays) << true << idle << int(AppListState::empty);
+    }
+
+    void applicationListStates()
+    {
+        QFETCH(int, period);
+        QFETCH(bool, historyEnabled);
+        QFETCH(AppEnergyList, list);
+        QFETCH(int, state);
+        QCOMPARE(int(appListState(AppPeriod(period), historyEnabled, list)), state);
+    }
+
+    void iconSources_data()
+    {
+        QTest::addColumn<QString>("icon");
+        QTest::addColumn<int>("source");
+        QTest::newRow("a bundle") << QStringLiteral("/Applications/Mail.app") << int(AppIconSource::bundle);
+        QTest::newRow("a bundle, as a folder") << QStringLiteral("/Applications/Mail.app/") << int(AppIconSource::bundle);
+        QTest::newRow("an image") << QStringLiteral("/usr/share/pixmaps/mail.png") << int(AppIconSource::file);
+        QTest::newRow("a theme's name") << QStringLiteral("mail-client") << int(AppIconSource::theme);
+        QTest::newRow("a relative path") << QStringLiteral("icons/mail.png") << int(AppIconSource::none);
+        QTest::newRow("blank") << QStringLiteral("  ") << int(AppIconSource::none);
+    }
+
+    void iconSources()
+    {
+        QFETCH(QString, icon);
+        QFETCH(int, source);
+        QCOMPARE(int(appIconSource(icon)), source);
     }
 
     void segmentFills_data()

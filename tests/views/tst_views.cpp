@@ -4,6 +4,7 @@
 #include "model/power_history.h"
 #include "platform/recorded/recorded_machine.h"
 #include "views/accessible_content.h"
+#include "views/app_painting.h"
 #include "views/dashboard_view.h"
 #include "views/main_window_view.h"
 #include "views/meter_card.h"
@@ -154,6 +155,12 @@ private slots:
         PowerSnapshot snapshot = recorded(folder.toLatin1().constData());
         snapshot.isDataAvailable = live;
         dashboard.setSnapshot(snapshot);
+        if (gaugeShown) // a desktop keeps the card's line that there is nothing yet
+            dashboard.setTopApplications({{AppEnergy{AppEnergy::Kind::application, QStringLiteral("a"), QStringLiteral("A"), {}, 36.0, 1, 60, AttributionMethod::measured},
+                                           AppEnergy{AppEnergy::Kind::self, QStringLiteral("f"), QStringLiteral("F"), {}, 3.6, 1, 60, AttributionMethod::measured},
+                                           AppEnergy{AppEnergy::Kind::application, QStringLiteral("b"), QStringLiteral("B"), {}, 7.2, 1, 60, AttributionMethod::measured}},
+                                          60,
+                                          AttributionMethod::measured});
         dashboard.setVersion(QStringLiteral("1.4.2"));
         dashboard.show();
         QVERIFY(QTest::qWaitForWindowExposed(&dashboard));
@@ -405,6 +412,66 @@ private slots:
             panel->findChild<QSpinBox *>(control)->setValue(static_cast<int>(expected.chargeLevelPercent));
         QCOMPARE(changes.size(), 1);
         QCOMPARE(changes.constFirst().constFirst().value<AlertSettings>(), expected);
+    }
+
+    // The Applications section shows the picked period's list, never a late answer for another,
+    // in the order of the column picked; the popover's lines ask for the section, by pointer, by
+    // keyboard and by a screen reader alike.
+    void applicationsFollowThePickedPeriod()
+    {
+        MainWindowView window;
+        QSignalSpy asked(&window, &MainWindowView::applicationsPeriodRequested);
+        const QWidget *panel = window.findChild<QWidget *>(QStringLiteral("applicationsPanel"));
+        const QWidget *note = panel->findChild<QWidget *>(QStringLiteral("appsNote"));
+        const auto app = [](const char *name, double energyJ, double coveredS) {
+            return AppEnergy{AppEnergy::Kind::application, QLatin1String(name), QLatin1String(name), {}, energyJ, 4, coveredS, AttributionMethod::measured};
+        };
+        const AppEnergyList list{{app("Long", 3600, 3600), app("Short", 1800, 600)}, 3600, AttributionMethod::measured};
+        window.setApplications(AppPeriod::today, list);
+        QVERIFY(note->isVisibleTo(panel));
+        window.setApplications(AppPeriod::session, list);
+        QVERIFY(!note->isVisibleTo(panel));
+        QAccessibleInterface *rows = QAccessible::queryAccessibleInterface(panel->findChild<QWidget *>(QStringLiteral("appsRows")));
+        QVERIFY(rows->child(0)->text(QAccessible::Name).startsWith(QStringLiteral("Long,")));
+        panel->findChild<QAbstractButton *>(QStringLiteral("sortByMeanPower"))->click();
+        QVERIFY(rows->child(0)->text(QAccessible::Name).startsWith(QStringLiteral("Short,")));
+        for (QToolButton *choice : panel->findChildren<QToolButton *>())
+            if (choice->text() == localizedText("apps.period_7_days"))
+                choice->click();
+        QCOMPARE(asked.size(), 1);
+        QCOMPARE(asked.constFirst().constFirst().value<AppPeriod>(), AppPeriod::sevenDays);
+        QCOMPARE(window.applicationsPeriod(), AppPeriod::sevenDays);
+        window.setApplications(AppPeriod::session, list);
+        QVERIFY(note->isVisibleTo(panel));
+        window.setApplications(AppPeriod::sevenDays, list);
+        QVERIFY(!note->isVisibleTo(panel));
+
+        DashboardView dashboard;
+        QSignalSpy opened(&dashboard, &DashboardView::applicationsRequested);
+        auto *line = dashboard.findChild<QAbstractButton *>(QStringLiteral("appLine0"));
+        QTest::mouseClick(line, Qt::LeftButton);
+        QTest::keyClick(line, Qt::Key_Return);
+        QTRY_COMPARE(opened.size(), 2);
+        QAccessible::queryAccessibleInterface(line)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(opened.size(), 3);
+    }
+
+    // An icon whose source has nothing to draw is none, and a monogram stands in.
+    void appIconsFallBack_data()
+    {
+        QTest::addColumn<QString>("icon");
+        QTest::addColumn<bool>("found");
+        QTest::newRow("an image") << QStringLiteral(":/icons/ferrow-256.png") << true;
+        QTest::newRow("an image that is not there") << QStringLiteral("/nonexistent/mail.png") << false;
+        QTest::newRow("a name no theme has") << QStringLiteral("ferrow-test-no-such-icon") << false;
+    }
+
+    void appIconsFallBack()
+    {
+        QFETCH(QString, icon);
+        QFETCH(bool, found);
+        AppIcons icons;
+        QCOMPARE(!icons.icon(icon).isNull(), found);
     }
 
     void chartDrawsRunsAndNamedAxes()

@@ -2,11 +2,12 @@
 // every state without a Mac: the popover for a notebook on its adapter, on battery, and a desktop,
 // in both appearances, at 1x and 2x; and the main window for a notebook and a desktop after
 // half an hour of simulated readings, at its top and scrolled to each section; the notebook's with a
-// month of simulated history behind its History section.
+// month of simulated history behind its History section. The applications are a fixed session's.
 //
 // Usage: render_views [FOLDER [MAIN_WINDOW_WIDTH]]
 
 #include "alerts/alert_text.h"
+#include "apps/app_energy.h"
 #include "app/app_services.h"
 #include "app/menu_bar_label.h"
 #include "app/text_table.h"
@@ -51,6 +52,23 @@ bool render(QWidget &widget, double scale, const QString &path)
     widget.render(&painter);
     painter.end();
     return image.save(path);
+}
+
+// A session of 72 minutes on battery as the attribution gives it: the chip's measured energy shared
+// by CPU time, its 8.4 Wh all accounted for.
+AppEnergyList sessionApplications()
+{
+    constexpr double kCoveredS = 72 * 60;
+    const auto app = [&](AppEnergy::Kind kind, const char *group, const char *name, double energyJ, double cpuTimeS) {
+        return AppEnergy{kind, QLatin1String(group), QLatin1String(name), QLatin1String(group), energyJ, cpuTimeS, kCoveredS, AttributionMethod::chipShare};
+    };
+    using Kind = AppEnergy::Kind;
+    return {{app(Kind::application, "web-browser", "Browser", 10440, 1900), app(Kind::others, "", "", 8370, 0),
+             app(Kind::application, "text-editor", "Code editor", 5760, 1050), app(Kind::application, "mail", "Mail", 2232, 400),
+             app(Kind::rest, "", "", 1440, 260), app(Kind::application, "music", "Music", 1476, 270),
+             app(Kind::application, "terminal", "Terminal", 396, 72), app(Kind::self, "ferrow", "Ferrow", 126, 23)},
+            kCoveredS,
+            AttributionMethod::chipShare};
 }
 
 struct SimulatedRun {
@@ -175,6 +193,7 @@ int renderMainWindow(const QString &output, const QString &name, const Simulated
     window.setSnapshot(run.snapshot);
     window.setHistory(run.history);
     window.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+    window.setApplications(AppPeriod::session, sessionApplications());
     if (width > 0)
         window.resize(width, window.height());
     window.show();
@@ -334,6 +353,8 @@ int main(int argc, char *argv[])
             session.energyWh = state.energyWh;
             session.coveredS = static_cast<double>(state.lengthS);
             dashboard.setCurrentSession(session, readAt); // a desktop has none to show
+            if (state.lengthS > 0) // the desktop's line says it has none yet
+                dashboard.setTopApplications(sessionApplications());
             dashboard.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
             dashboard.setShowPowerInMenuBar(true);
             dashboard.setReduceMotion(true); // a still frame: the dots at their resting phases
@@ -377,6 +398,7 @@ int main(int argc, char *argv[])
             DashboardView dashboard;
             dashboard.setFerrowPalette(FerrowPalette{scheme, contrast});
             dashboard.setSnapshot(snapshots[1]);
+            dashboard.setTopApplications(sessionApplications());
             dashboard.setFrame(DashboardView::Frame::square); // as under a window system that does not composite
             dashboard.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
             dashboard.setShowPowerInMenuBar(true);
@@ -394,6 +416,28 @@ int main(int argc, char *argv[])
             }
             ++written;
         }
+    }
+    // The session's applications, the keyboard on the first of them.
+    for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+        DashboardView dashboard;
+        dashboard.setFerrowPalette(FerrowPalette{scheme});
+        dashboard.setSnapshot(snapshots[1]);
+        dashboard.setTopApplications(sessionApplications());
+        dashboard.setFrame(DashboardView::Frame::square);
+        dashboard.setVersion(appVersionString(QCoreApplication::applicationVersion(), std::nullopt));
+        dashboard.setShowPowerInMenuBar(true);
+        dashboard.setReduceMotion(true);
+        dashboard.show();
+        dashboard.activateWindow();
+        waitFor(20);
+        dashboard.focusFirstControl();
+        dashboard.findChild<QWidget *>(QStringLiteral("appLine0"))->setFocus(Qt::TabFocusReason);
+        const QString path = QStringLiteral("%1/popover-apps-%2.png").arg(output, scheme == ColorScheme::dark ? QStringLiteral("dark") : QStringLiteral("light"));
+        if (!render(dashboard, 1.0, path)) {
+            err << "render_views: cannot write " << path << Qt::endl;
+            return 1;
+        }
+        ++written;
     }
     {
         // An alert that holds: the charger cannot keep up with the notebook on battery's draw.

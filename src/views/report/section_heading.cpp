@@ -20,6 +20,8 @@ Glyph sectionGlyph(MainSection section)
         return Glyph::grid;
     case MainSection::energy:
         return Glyph::chart;
+    case MainSection::applications:
+        return Glyph::apps;
     case MainSection::history:
         return Glyph::info;
     }
