@@ -105,6 +105,7 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     showLoginItemState();
     m_dashboard->setReduceMotion(reducesMotion(preferences));
     connect(m_dashboard, &DashboardView::detailsRequested, this, &ApplicationShell::openMainWindow);
+    connect(m_dashboard, &DashboardView::applicationsRequested, this, [this] { openMainWindow()->pickSection(MainSection::applications); });
 
     connect(m_dashboard, &DashboardView::showPowerInMenuBarToggled, this, [this](bool shown) {
         Preferences changed = readPreferences(m_settings);
@@ -157,6 +158,11 @@ void ApplicationShell::startHistory(bool keep)
         if (m_mainWindow)
             m_mainWindow->setHistoryOverview(overview);
     });
+    connect(m_history.get(), &HistoryRecorder::applicationsChanged, this, &ApplicationShell::showApplications);
+    connect(m_history.get(), &HistoryRecorder::applicationsReady, this, [this](AppPeriod period, const AppEnergyList &list) {
+        if (m_mainWindow)
+            m_mainWindow->setApplications(period, list);
+    });
     connect(m_history.get(), &HistoryRecorder::errorChanged, this, [this] {
         // A database stops at its first failure, so this is said once; the details window keeps saying it.
         if (const QString error = m_history->error(); !error.isEmpty())
@@ -165,12 +171,28 @@ void ApplicationShell::startHistory(bool keep)
     });
 }
 
+void ApplicationShell::showApplications()
+{
+    m_dashboard->setTopApplications(m_history->sessionApplications());
+    if (m_mainWindow && m_mainWindow->isVisible() && m_mainWindow->applicationsPeriod() == AppPeriod::session)
+        requestApplications(AppPeriod::session);
+}
+
+void ApplicationShell::requestApplications(AppPeriod period)
+{
+    const UnixSeconds now = QDateTime::currentSecsSinceEpoch();
+    const std::optional<SessionRecord> &session = m_history->currentSession();
+    m_history->requestApplications(period, appPeriodStart(period, now, session ? session->start : now), now + 1);
+}
+
 void ApplicationShell::requestHistoryOverview()
 {
     if (!m_mainWindow || !m_history->keepsHistory())
         return;
     m_sinceHistoryOverview.start();
     m_history->requestOverview(QDateTime::currentSecsSinceEpoch());
+    if (m_mainWindow->applicationsPeriod() != AppPeriod::session)
+        requestApplications(m_mainWindow->applicationsPeriod()); // stored a minute at a time, like the overview
 }
 
 void ApplicationShell::setKeepHistory(bool keep)
@@ -272,6 +294,8 @@ MainWindowView *ApplicationShell::openMainWindow()
         m_mainWindow->setAlertSettings(readPreferences(m_settings).alerts);
         showNotificationPermission();
         connect(m_mainWindow.get(), &MainWindowView::alertSettingsChanged, this, &ApplicationShell::setAlertSettings);
+        connect(m_mainWindow.get(), &MainWindowView::applicationsPeriodRequested, this, &ApplicationShell::requestApplications);
+        requestApplications(m_mainWindow->applicationsPeriod());
     }
     requestHistoryOverview();
     if (m_menuBarItem)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "alerts/alert_rules.h"
+#include "apps/app_energy.h"
 #include "app/alert_delivery.h"
 #include "app/app_services.h"
 #include "app/machine_source.h"
@@ -54,6 +55,9 @@ private:
     void startHistory(bool keep);
     void setKeepHistory(bool keep);
     void requestHistoryOverview();
+    // The current session's applications to the popover, and to the details window when it shows them.
+    void showApplications();
+    void requestApplications(AppPeriod period);
     void setAlertSettings(const AlertSettings &alerts);
     // A note in the details window while the system keeps notifications from us.
     void showNotificationPermission();
