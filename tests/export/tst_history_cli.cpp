@@ -2,6 +2,7 @@
 #include "history/history_database.h"
 #include "history/history_recorder.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -174,6 +175,46 @@ private slots:
         QCOMPARE(rows[1][QStringLiteral("end_percent")].toInt(), 80);
     }
 
+    // The applications of the current session (the newest stored) and of the last days, each line
+    // saying how its energy was found.
+    void applications()
+    {
+        const UnixSeconds now = QDateTime::currentSecsSinceEpoch();
+        const UnixSeconds sessionStart = now - 3600;
+        SessionRecord session;
+        session.start = sessionStart;
+        session.end = now;
+        session.energyWh = 1;
+        session.coveredS = 3600;
+        QVERIFY(m_writer->write({}, {session}, {}, now));
+        const auto line = [](AppEnergy::Kind kind, const char *group, double energyJ) {
+            return AppEnergy{kind, QString::fromLatin1(group), QStringLiteral("Quill, \"the\" editor"), {}, energyJ, 2, 60, AttributionMethod::measured};
+        };
+        const auto minuteOf = [&](UnixSeconds start, double energyJ) {
+            return AppMinuteRecord{start - start % 60, {{line(AppEnergy::Kind::application, "/Applications/Quill.app", energyJ),
+                                                         line(AppEnergy::Kind::others, "", 3600 - energyJ)}, 60, AttributionMethod::measured}};
+        };
+        QVERIFY(m_writer->writeApplications({minuteOf(sessionStart - 2 * 86'400, 1800), minuteOf(now - 600, 720)}));
+
+        const Run session7 = run(QStringLiteral("--apps --period 7d --format json --database DB").split(u' '));
+        QVERIFY2(session7.exitCode == 0, session7.err.constData());
+        const QJsonArray week = QJsonDocument::fromJson(session7.out).array();
+        QCOMPARE(week.size(), 2);
+        QCOMPARE(week[0][QStringLiteral("kind")].toString(), QStringLiteral("others"));
+        QCOMPARE(week[0][QStringLiteral("estimated")].toBool(), true);
+        QCOMPARE(week[1][QStringLiteral("energy_wh")].toDouble(), 0.7);
+        QCOMPARE(week[1][QStringLiteral("share")].toDouble(), 0.35);
+        QCOMPARE(week[1][QStringLiteral("method")].toString(), QStringLiteral("measured"));
+        QCOMPARE(week[1][QStringLiteral("estimated")].toBool(), false);
+
+        const Run current = run(QStringLiteral("--apps --database DB").split(u' '));
+        QVERIFY2(current.exitCode == 0, current.err.constData());
+        const QList<QByteArray> lines = current.out.trimmed().split('\n');
+        QCOMPARE(lines[0], QByteArray("kind,app,name,energy_wh,share,mean_power_w,cpu_s,covered_s,method,estimated"));
+        QCOMPARE(lines.size(), 3);
+        QCOMPARE(lines[2], QByteArray("application,/Applications/Quill.app,\"Quill, \"\"the\"\" editor\",0.2,0.2,12,2,60,measured,false"));
+    }
+
     void refused_data()
     {
         QTest::addColumn<QString>("arguments");
@@ -192,7 +233,11 @@ private slots:
                                             << QStringLiteral("--per goes with --history only");
         QTest::newRow("both at once") << QStringLiteral("--sessions --history --database DB") << 2 << QStringLiteral("exclude each other");
         QTest::newRow("with a reading option") << QStringLiteral("--history --once --database DB") << 2 << QStringLiteral("take only --from");
-        QTest::newRow("history option alone") << QStringLiteral("--format json") << 2 << QStringLiteral("go with --history or --sessions");
+        QTest::newRow("history option alone") << QStringLiteral("--format json") << 2 << QStringLiteral("go with --history, --sessions or --apps");
+        QTest::newRow("unknown stretch of applications") << QStringLiteral("--apps --period week --database DB") << 2
+                                                         << QStringLiteral("--period takes session, today, 7d or 30d, not 'week'");
+        QTest::newRow("applications by dates") << QStringLiteral("--apps --from 2026-11-01 --database DB") << 2
+                                               << QStringLiteral("--apps takes --period rather than");
         QTest::newRow("no such file") << QStringLiteral("--history --database DB.gone") << 1 << QStringLiteral("does not exist");
     }
 
