@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 
 namespace ferrow {
 
@@ -151,10 +150,17 @@ AppEnergyList HistoryDatabase::applications(UnixSeconds from, UnixSeconds to, QS
         return list;
     QSqlQuery query(QSqlDatabase::database(m_connection, false));
     query.setForwardOnly(true);
-    const QString rows = QStringLiteral("SELECT start, app_id, energy_mj, cpu_ms, covered_s, method FROM %1 WHERE start >= ? AND start < ?");
-    if (!query.prepare(QStringLiteral("SELECT r.start, a.app, a.name, a.icon, a.kind, r.energy_mj, r.cpu_ms, r.covered_s, r.method "
-                                      "FROM (%1 UNION ALL %2) r JOIN applications a ON a.id = r.app_id")
-                           .arg(rows.arg(QStringLiteral("app_minutes")), rows.arg(QStringLiteral("app_hours"))))) {
+    const QString rows = QStringLiteral("SELECT start, app_id, energy_mj, cpu_ms, covered_s, method FROM app_minutes WHERE start >= ? AND start < ? "
+                                        "UNION ALL SELECT start, app_id, energy_mj, cpu_ms, covered_s, method FROM app_hours WHERE start >= ? AND start < ?");
+    // Summed by SQLite: a month is a third of a million lines. The period's time is once per
+    // minute (or hour), which every line of it shares; it comes last, as a line of its own.
+    const bool prepared = query.prepare(
+        QStringLiteral("WITH r AS (%1) "
+                       "SELECT a.app, a.name, a.icon, a.kind, sum(r.energy_mj), sum(r.cpu_ms), %2 FROM r JOIN applications a ON a.id = r.app_id "
+                       "GROUP BY r.app_id "
+                       "UNION ALL SELECT NULL, NULL, NULL, -1, NULL, (SELECT sum(seconds) FROM (SELECT max(covered_s) AS seconds FROM r GROUP BY start)), NULL")
+            .arg(rows, kCombinedMethods));
+    if (!prepared) {
         readFailed(query, error);
         return list;
     }
@@ -166,43 +172,33 @@ AppEnergyList HistoryDatabase::applications(UnixSeconds from, UnixSeconds to, QS
         readFailed(query, error);
         return list;
     }
-    std::map<QString, AppEnergy> apps;
-    std::map<UnixSeconds, double> coveredByStart; // every line of a period carries its time
     std::optional<AttributionMethod> weakest;
     while (query.next()) {
-        const std::optional<AppEnergy::Kind> kind = kindFromStored(query.value(4).toInt());
+        if (query.value(3).toInt() == -1) {
+            list.coveredS = query.value(5).toDouble();
+            continue;
+        }
+        const std::optional<AppEnergy::Kind> kind = kindFromStored(query.value(3).toInt());
         if (!kind)
             continue; // written by a newer Ferrow: left out rather than misnamed
-        const QString key = query.value(1).toString();
-        const AttributionMethod method = methodFromStored(query.value(8).toInt());
-        auto [entry, added] = apps.try_emplace(key);
-        AppEnergy &app = entry->second;
-        if (added) {
-            app.kind = *kind;
-            if (*kind == AppEnergy::Kind::application || *kind == AppEnergy::Kind::self)
-                app.group = key;
-            app.name = query.value(2).toString();
-            app.icon = query.value(3).toString();
-            app.method = method;
-        }
-        if (!query.value(5).isNull())
-            app.energyJ = app.energyJ.value_or(0.0) + static_cast<double>(query.value(5).toLongLong()) / 1000.0;
-        app.cpuTimeS += static_cast<double>(query.value(6).toLongLong()) / 1000.0;
-        app.method = combinedMethod(app.method, method);
-        weakest = combinedMethod(weakest.value_or(method), method);
-        double &covered = coveredByStart[query.value(0).toLongLong()];
-        covered = std::max(covered, query.value(7).toDouble());
+        AppEnergy app;
+        app.kind = *kind;
+        if (*kind == AppEnergy::Kind::application || *kind == AppEnergy::Kind::self)
+            app.group = query.value(0).toString();
+        app.name = query.value(1).toString();
+        app.icon = query.value(2).toString();
+        if (!query.value(4).isNull())
+            app.energyJ = static_cast<double>(query.value(4).toLongLong()) / 1000.0;
+        app.cpuTimeS = static_cast<double>(query.value(5).toLongLong()) / 1000.0;
+        app.method = methodFromStored(query.value(6).toInt());
+        weakest = combinedMethod(weakest.value_or(app.method), app.method);
+        list.apps.push_back(std::move(app));
     }
     if (query.lastError().isValid())
         readFailed(query, error);
-    for (const auto &[start, coveredS] : coveredByStart)
-        list.coveredS += coveredS;
     list.method = weakest.value_or(AttributionMethod::cpuTime);
-    list.apps.reserve(apps.size());
-    for (auto &[key, app] : apps) {
+    for (AppEnergy &app : list.apps)
         app.coveredS = list.coveredS;
-        list.apps.push_back(std::move(app));
-    }
     sortMostFirst(list.apps);
     return list;
 }
