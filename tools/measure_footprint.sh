@@ -106,7 +106,7 @@ measure "popover open (flow animating)" "btop at 1 s, same period"
 
 popover=$(xdotool search --onlyvisible --name "^FERROW$" | head -n 1)
 eval "$(xdotool getwindowgeometry --shell "$popover")"
-xdotool mousemove $((X + 215)) $((Y + 492)) click 1 # the "Open details" row
+xdotool mousemove $((X + 215)) $((Y + HEIGHT - 73)) click 1 # the "Open details" row, above the footer
 sleep 2
 xdotool search --onlyvisible --name "^Device details$" >/dev/null || { echo "the details window did not open" >&2; exit 1; }
 measure "details window open"

@@ -177,6 +177,22 @@ bool decodeSMC(const QJsonValue &json, const QString &key, Recording &recording,
     return true;
 }
 
+// A list of frames, each decoded by decodeFrame at its own place in the file.
+template <typename Frame, typename DecodeFrame>
+bool decodeFrames(const QJsonValue &json, const QString &key, std::vector<Frame> &decoded, DecodeFrame decodeFrame, Problem &problem)
+{
+    if (json.isUndefined())
+        return true;
+    if (!json.isArray())
+        return fail(problem, key, QStringLiteral("expected a list of frames"));
+    const QJsonArray frames = json.toArray();
+    for (qsizetype f = 0; f < frames.size(); ++f) {
+        if (!decodeFrame(frames[f], QStringLiteral("%1[%2]").arg(key).arg(f), decoded.emplace_back(), problem))
+            return false;
+    }
+    return true;
+}
+
 QJsonValue encodeEnergy(const Recording &recording)
 {
     QJsonArray frames;
@@ -187,16 +203,7 @@ QJsonValue encodeEnergy(const Recording &recording)
 
 bool decodeEnergy(const QJsonValue &json, const QString &key, Recording &recording, Problem &problem)
 {
-    if (json.isUndefined())
-        return true;
-    if (!json.isArray())
-        return fail(problem, key, QStringLiteral("expected a list of frames"));
-    const QJsonArray frames = json.toArray();
-    for (qsizetype f = 0; f < frames.size(); ++f) {
-        if (!decodeEnergyFrame(frames[f], QStringLiteral("%1[%2]").arg(key).arg(f), recording.energyFrames.emplace_back(), problem))
-            return false;
-    }
-    return true;
+    return decodeFrames(json, key, recording.energyFrames, decodeEnergyFrame, problem);
 }
 
 QJsonValue encodeProcesses(const Recording &recording)
@@ -211,16 +218,7 @@ QJsonValue encodeProcesses(const Recording &recording)
 
 bool decodeProcesses(const QJsonValue &json, const QString &key, Recording &recording, Problem &problem)
 {
-    if (json.isUndefined())
-        return true;
-    if (!json.isArray())
-        return fail(problem, key, QStringLiteral("expected a list of frames"));
-    const QJsonArray frames = json.toArray();
-    for (qsizetype f = 0; f < frames.size(); ++f) {
-        if (!decodeProcessFrame(frames[f], QStringLiteral("%1[%2]").arg(key).arg(f), recording.processFrames.emplace_back(), problem))
-            return false;
-    }
-    return true;
+    return decodeFrames(json, key, recording.processFrames, decodeProcessFrame, problem);
 }
 
 QJsonValue encodePowerSources(const Recording &recording)
