@@ -77,6 +77,21 @@ QIcon AppIcons::icon(const QString &where)
     return icon;
 }
 
+bool AppIcons::paint(QPainter &painter, const QRect &box, const QString &where)
+{
+    const qreal ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1.0;
+    const QString key = QStringLiteral("%1@%2x%3").arg(where).arg(box.width()).arg(ratio);
+    auto drawn = m_drawn.constFind(key);
+    if (drawn == m_drawn.constEnd()) {
+        const QIcon source = icon(where);
+        drawn = m_drawn.insert(key, source.isNull() ? QPixmap() : source.pixmap(box.size(), ratio));
+    }
+    if (drawn->isNull())
+        return false;
+    painter.drawPixmap(box, *drawn);
+    return true;
+}
+
 namespace {
 
 QPainterPath tileShape(const QRectF &box)
@@ -99,13 +114,11 @@ void paintAppIcon(QPainter &painter, const QRectF &box, const AppRow &row, AppIc
         paintGlyph(painter, row.kind == AppEnergy::Kind::others ? Glyph::chip : Glyph::apps, box.adjusted(3, 3, -3, -3), palette.secondaryText());
         break;
     case AppEnergy::Kind::self:
-        QIcon(QStringLiteral(":/icons/ferrow-256.png")).paint(&painter, box.toAlignedRect());
+        icons.paint(painter, box.toAlignedRect(), QStringLiteral(":/icons/ferrow-256.png"));
         break;
     case AppEnergy::Kind::application:
-        if (const QIcon own = icons.icon(row.icon); !own.isNull()) {
-            own.paint(&painter, box.toAlignedRect());
+        if (icons.paint(painter, box.toAlignedRect(), row.icon))
             break;
-        }
         painter.fillPath(tileShape(box), palette.monogramTile(monogramTileIndex(row.group.isEmpty() ? row.name : row.group)));
         painter.setPen(Qt::white);
         painter.setFont(uiFont(box.height() * 0.62, QFont::DemiBold));

@@ -5,12 +5,14 @@
 
 #include <QHash>
 #include <QIcon>
+#include <QPixmap>
 #include <QString>
 
 #include <cstddef>
 
 class QFont;
 class QPainter;
+class QRect;
 class QRectF;
 
 namespace ferrow {
@@ -32,9 +34,13 @@ class AppIcons {
 public:
     // The icon where its source has one to show; a null icon otherwise.
     QIcon icon(const QString &where);
+    // Draws it into box from a pixmap made once per size: an icon scales its image at every paint
+    // otherwise. False where there is none.
+    bool paint(QPainter &painter, const QRect &box, const QString &where);
 
 private:
     QHash<QString, QIcon> m_found;
+    QHash<QString, QPixmap> m_drawn; // by where and size in device pixels
 };
 
 // A line's icon in box: the application's own or its monogram, this program's, or a neutral glyph

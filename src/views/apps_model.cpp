@@ -104,7 +104,8 @@ AppRow rowOf(const AppEnergy &app, const AppEnergyList &list)
         row.meanPower = formatFigure(app.meanPowerW(), "%.1f W");
     const std::optional<double> share = finite(list.share(app));
     row.share = shareText(share);
-    row.shareFraction = std::clamp(share.value_or(0), 0.0, 1.0);
+    // To a thousandth, finer than any bar draws: a row that looks the same compares equal.
+    row.shareFraction = std::round(std::clamp(share.value_or(0), 0.0, 1.0) * 1000.0) / 1000.0;
     row.estimated = energy && joules && !app.isMeasured();
     return row;
 }

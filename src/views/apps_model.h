@@ -32,6 +32,8 @@ struct AppRow {
     double shareFraction = 0;
     bool estimated = false; // an energy shared out rather than measured for it
     bool pinned = false;    // this program, kept at the foot although it does not rank
+
+    bool operator==(const AppRow &) const = default;
 };
 
 // Whether a list gives energies, or CPU time alone.

@@ -30,11 +30,13 @@ public:
     explicit Line(AppsCard *card)
         : m_card(card)
     {
-        setFixedHeight(kLineHeight);
+        setFixedHeight(kLineHeight * kLines); // the note, until a row comes
     }
 
     void setRow(std::optional<AppRow> row, bool energy)
     {
+        if (row == m_row && energy == m_energy)
+            return; // a new sample every second that changes no figure paints nothing
         m_row = std::move(row);
         m_energy = energy;
         // The note alone takes the room of all the lines, in the middle of it.
