@@ -143,6 +143,9 @@ private slots:
                 return std::any_of(apps.apps.begin(), apps.apps.end(), [&](const AppEnergy &app) { return app.kind == kind && app.energyJ > 0.0; });
             };
             QVERIFY(has(AppEnergy::Kind::others) && has(AppEnergy::Kind::self) && has(AppEnergy::Kind::rest));
+            // What the processes' own counters measured reaches the list: the system keeps only its part.
+            const auto others = std::find_if(apps.apps.begin(), apps.apps.end(), [](const AppEnergy &app) { return app.kind == AppEnergy::Kind::others; });
+            QVERIFY(std::fabs(*others->energyJ / *apps.totalJ() - (1 - SimulatedProcessSource::kUserShare)) < 0.005);
             QVERIFY(std::fabs(apps.coveredS - day.energy.coveredS) <= 60); // sampled every 5 s, stored in whole seconds
         }
         // The battery's energy in and out is what passed through it: its net is the adapter's surplus.
