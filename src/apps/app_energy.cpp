@@ -98,10 +98,11 @@ std::optional<double> AppEnergyList::totalJ() const
 
 std::optional<double> AppEnergyList::share(const AppEnergy &app) const
 {
-    if (app.energyJ) {
-        const std::optional<double> total = totalJ();
+    const std::optional<double> total = totalJ();
+    if (app.energyJ)
         return total && *total > 0 ? std::optional(*app.energyJ / *total) : std::nullopt;
-    }
+    if (total)
+        return std::nullopt; // no energy in a list of energies: a share of CPU time would not compare
     double cpuS = 0;
     for (const AppEnergy &other : apps)
         cpuS += other.cpuTimeS;

@@ -66,7 +66,8 @@ struct AppEnergyList {
     AttributionMethod method = AttributionMethod::cpuTime;
 
     std::optional<double> totalJ() const;
-    // The app's share of the period's energy (or CPU time) in 0…1.
+    // The app's share of the period's energy in 0…1, or of its CPU time where nothing in the
+    // period measured energy.
     std::optional<double> share(const AppEnergy &app) const;
 };
 
