@@ -62,9 +62,9 @@ private slots:
         QTest::newRow("kernel energy; the chip's rest is the system's")
             << frame(10, {{1, 1, "a", 1, 5}, {2, 1, "b", 1, 1}}) << frame(15, {{1, 1, "a", 2, 9}, {2, 1, "b", 3, 2}})
             << MeasuredEnergy{10.0, 30.0} << measured << Expected{{"a", 4}, {"b", 1}, {"others", 5}};
-        QTest::newRow("helpers add up in their group; self is listed idle")
+        QTest::newRow("helpers add up in their group, one busy on the GPU alone; self is listed idle")
             << frame(10, {{1, 1, "a", 0, 1}, {2, 1, "a", 0, 1}, {3, 1, "self", 0, 0}})
-            << frame(15, {{1, 1, "a", 1, 3}, {2, 1, "a", 1, 2}, {3, 1, "self", 0, 0}}) << MeasuredEnergy{4.0, {}} << measured
+            << frame(15, {{1, 1, "a", 1, 3}, {2, 1, "a", 0, 2}, {3, 1, "self", 0, 0}}) << MeasuredEnergy{4.0, {}} << measured
             << Expected{{"a", 3}, {"self", 0}, {"others", 1}};
         QTest::newRow("kernel energy without the chip's: no remainder to give")
             << frame(10, {{1, 1, "a", 1, 5}}) << frame(15, {{1, 1, "a", 2, 9}}) << MeasuredEnergy{{}, 30.0} << measured
@@ -87,6 +87,9 @@ private slots:
             << frame(10, {{1, 1, "a", 0}, {2, 1, "b", 0}}, std::pair{0.0, 0.0})
             << frame(15, {{1, 1, "a", 3}, {2, 1, "b", 1}}, std::pair{5.0, 20.0}) << MeasuredEnergy{10.0, 40.0}
             << int(AttributionMethod::chipShare) << Expected{{"a", 6}, {"b", 2}, {"others", 2}};
+        QTest::newRow("chip energy by CPU time where the processors' time is unknown")
+            << frame(10, {{1, 1, "a", 0}, {2, 1, "b", 0}}) << frame(15, {{1, 1, "a", 3}, {2, 1, "b", 1}}) << MeasuredEnergy{8.0, {}}
+            << int(AttributionMethod::chipShare) << Expected{{"a", 6}, {"b", 2}, {"others", 0}};
         QTest::newRow("the system's power by the processor's busy share")
             << frame(10, {{1, 1, "a", 0}}, std::pair{0.0, 0.0}) << frame(15, {{1, 1, "a", 2}}, std::pair{2.0, 8.0})
             << MeasuredEnergy{{}, 40.0} << int(AttributionMethod::systemShare) << Expected{{"a", 10}, {"others", 30}};
