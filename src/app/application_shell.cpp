@@ -27,6 +27,7 @@
 #include <QScreen>
 #include <QStyleHints>
 #include <QTextStream>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -105,7 +106,11 @@ ApplicationShell::ApplicationShell(OpenedMachine machine, std::unique_ptr<SleepW
     showLoginItemState();
     m_dashboard->setReduceMotion(reducesMotion(preferences));
     connect(m_dashboard, &DashboardView::detailsRequested, this, &ApplicationShell::openMainWindow);
-    connect(m_dashboard, &DashboardView::applicationsRequested, this, [this] { openMainWindow()->pickSection(MainSection::applications); });
+    connect(m_dashboard, &DashboardView::applicationsRequested, this, [this] {
+        MainWindowView *window = openMainWindow();
+        // A window made just now lays out once it shows: the section's place is known after that.
+        QTimer::singleShot(0, window, [window] { window->pickSection(MainSection::applications); });
+    });
 
     connect(m_dashboard, &DashboardView::showPowerInMenuBarToggled, this, [this](bool shown) {
         Preferences changed = readPreferences(m_settings);
