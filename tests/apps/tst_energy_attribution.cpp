@@ -140,6 +140,8 @@ private slots:
         QCOMPARE(list.apps.size(), 3u);
         QCOMPARE(list.apps[0].group, QStringLiteral("a"));
         QCOMPARE(*list.apps[0].energyJ, 4.0);
+        QCOMPARE(list.apps[0].cpuTimeS, 1.0);
+        QCOMPARE(list.method, AttributionMethod::measured);
         QCOMPARE(list.apps[1].kind, AppEnergy::Kind::others);
         QCOMPARE(*list.apps[1].energyJ, 0.9 + 1.9 + 0.9);
         QCOMPARE(list.apps[2].kind, AppEnergy::Kind::self);
