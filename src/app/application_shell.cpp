@@ -185,6 +185,7 @@ void ApplicationShell::showApplications()
 
 void ApplicationShell::requestApplications(AppPeriod period)
 {
+    m_sinceStoredApplications.start();
     const UnixSeconds now = QDateTime::currentSecsSinceEpoch();
     const std::optional<SessionRecord> &session = m_history->currentSession();
     m_history->requestApplications(period, appPeriodStart(period, now, session ? session->start : now), now + 1);
@@ -196,8 +197,13 @@ void ApplicationShell::requestHistoryOverview()
         return;
     m_sinceHistoryOverview.start();
     m_history->requestOverview(QDateTime::currentSecsSinceEpoch());
-    if (m_mainWindow->applicationsPeriod() != AppPeriod::session)
-        requestApplications(m_mainWindow->applicationsPeriod()); // stored a minute at a time, like the overview
+    // Stored a minute at a time, like the overview; a week or a month of minutes takes a tenth of
+    // a second to sum, and one more minute hardly moves it.
+    const AppPeriod period = m_mainWindow->applicationsPeriod();
+    constexpr qint64 kLongPeriodIntervalMs = 600'000;
+    if (period == AppPeriod::today || ((period == AppPeriod::sevenDays || period == AppPeriod::thirtyDays)
+                                       && m_sinceStoredApplications.isValid() && m_sinceStoredApplications.elapsed() >= kLongPeriodIntervalMs))
+        requestApplications(period);
 }
 
 void ApplicationShell::setKeepHistory(bool keep)

@@ -91,6 +91,7 @@ private:
     // the focus, and that click must not open it again.
     QElapsedTimer m_sinceClosedByFocusLoss;
     QElapsedTimer m_sinceHistoryOverview;
+    QElapsedTimer m_sinceStoredApplications; // since the details window last asked for a period's list
     bool m_hasShownReading = false;
     bool m_hasPopoverMaterial = false; // the platform's translucent material behind the popover
     std::optional<bool> m_systemIncreasesContrast; // read again when the system's appearance changes
