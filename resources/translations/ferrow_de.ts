@@ -789,9 +789,17 @@
         <source>Most energy this session</source>
         <translation>Meiste Energie in dieser Sitzung</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>Meiste Energie seit dem Start von Ferrow</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>In dieser Sitzung noch nichts gemessen</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>Noch nichts gemessen</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

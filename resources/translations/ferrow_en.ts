@@ -789,9 +789,17 @@
         <source>Most energy this session</source>
         <translation>Most energy this session</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>Most energy since Ferrow started</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>Nothing measured yet this session</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>Nothing measured yet</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

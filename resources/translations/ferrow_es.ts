@@ -789,9 +789,17 @@
         <source>Most energy this session</source>
         <translation>Más energía en esta sesión</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>Más energía desde que se inició Ferrow</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>Aún no se ha medido nada en esta sesión</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>Aún no se ha medido nada</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

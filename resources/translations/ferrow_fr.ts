@@ -789,9 +789,17 @@
         <source>Most energy this session</source>
         <translation>Plus forte consommation de la session</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>Plus d’énergie depuis le lancement de Ferrow</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>Rien de mesuré pour l’instant dans cette session</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>Rien de mesuré pour l’instant</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

@@ -789,9 +789,17 @@
         <source>Most energy this session</source>
         <translation>Più energia in questa sessione</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>Più energia dall’avvio di Ferrow</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>Ancora nulla di misurato in questa sessione</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>Ancora nulla di misurato</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

@@ -779,9 +779,17 @@
         <source>Most energy this session</source>
         <translation>このセッションの消費上位</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>Ferrow 起動以降の消費エネルギー上位</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>このセッションではまだ測定値がありません</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>まだ何も計測されていません</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

@@ -779,9 +779,17 @@
         <source>Most energy this session</source>
         <translation>이번 세션에서 에너지를 가장 많이 쓴 앱</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>Ferrow 시작 이후 에너지 사용 상위</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>이번 세션에서 아직 측정된 것이 없습니다</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>아직 측정된 항목이 없습니다</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

@@ -789,9 +789,17 @@
         <source>Most energy this session</source>
         <translation>Meeste energie deze sessie</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>Meeste energie sinds de start van Ferrow</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>Deze sessie nog niets gemeten</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>Nog niets gemeten</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

@@ -799,9 +799,17 @@
         <source>Most energy this session</source>
         <translation>Najwięcej energii w tej sesji</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>Najwięcej energii od uruchomienia Ferrow</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>W tej sesji nic jeszcze nie zmierzono</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>Jeszcze nic nie zmierzono</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

@@ -789,9 +789,17 @@
         <source>Most energy this session</source>
         <translation>Mais energia nesta sessão</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>Mais energia desde que o Ferrow foi aberto</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>Nada medido ainda nesta sessão</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>Nada medido ainda</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

@@ -799,9 +799,17 @@
         <source>Most energy this session</source>
         <translation>Больше всего энергии за сеанс</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>Больше всего энергии с запуска Ferrow</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>За этот сеанс пока ничего не измерено</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>Пока ничего не измерено</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

@@ -779,9 +779,17 @@
         <source>Most energy this session</source>
         <translation>本时段能耗最多的应用</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>自 Ferrow 启动以来耗能最多</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>本时段尚无测量数据</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>尚未测得任何数据</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

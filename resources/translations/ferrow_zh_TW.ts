@@ -779,9 +779,17 @@
         <source>Most energy this session</source>
         <translation>本時段能耗最多的應用程式</translation>
     </message>
+    <message id="apps.popover_title_since_start">
+        <source>Most energy since Ferrow started</source>
+        <translation>自 Ferrow 啟動以來耗能最多</translation>
+    </message>
     <message id="apps.popover_none">
         <source>Nothing measured yet this session</source>
         <translation>本時段尚無測量資料</translation>
+    </message>
+    <message id="apps.popover_none_since_start">
+        <source>Nothing measured yet</source>
+        <translation>尚未測得任何資料</translation>
     </message>
     <message id="apps.period">
         <source>Period</source>

@@ -99,6 +99,7 @@ void DashboardView::setSnapshot(const PowerSnapshot &s)
     m_flow->setSnapshot(s);
     m_battery->setSnapshot(s);
     m_telemetry->setSnapshot(s);
+    m_apps->setHasSessions(s.hasBattery);
     if (s.hasBattery != m_hasBattery) {
         m_hasBattery = s.hasBattery;
         showSession();

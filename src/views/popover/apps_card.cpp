@@ -46,7 +46,7 @@ public:
 
     AccessibleItem accessibleSelf() const override
     {
-        return {QAccessible::Button, m_row ? spokenAppRow(*m_row, false, m_energy) : localizedText("apps.popover_none"), {}};
+        return {QAccessible::Button, m_row ? spokenAppRow(*m_row, false, m_energy) : localizedText(m_card->noneKey()), {}};
     }
 
 protected:
@@ -58,7 +58,7 @@ protected:
         const QRectF inner = QRectF(rect()).adjusted(kLineInset, 0, -kLineInset, 0);
         if (!m_row) {
             painter.setPen(palette.secondaryText());
-            drawFittedText(painter, inner, localizedText("apps.popover_none"), uiFont(9), 0.85, Qt::AlignHCenter);
+            drawFittedText(painter, inner, localizedText(m_card->noneKey()), uiFont(9), 0.85, Qt::AlignHCenter);
         } else {
             paintAppIcon(painter, QRectF(inner.left(), inner.center().y() - 6.5, 13, 13), *m_row, m_card->m_icons, palette);
             const double amountLeft = inner.right() - kAmountWidth;
@@ -107,6 +107,17 @@ void AppsCard::setSession(const AppEnergyList &session)
     }
 }
 
+void AppsCard::setHasSessions(bool hasSessions)
+{
+    if (hasSessions == m_hasSessions)
+        return;
+    m_hasSessions = hasSessions;
+    m_titleKey = hasSessions ? "apps.popover_title" : "apps.popover_title_since_start";
+    update();
+    for (Line *line : m_lines)
+        line->update();
+}
+
 void AppsCard::setFerrowPalette(const FerrowPalette &palette)
 {
     m_palette = palette;
@@ -117,7 +128,7 @@ void AppsCard::setFerrowPalette(const FerrowPalette &palette)
 
 std::vector<AccessibleItem> AppsCard::accessibleParts() const
 {
-    return {{QAccessible::Heading, localizedText("apps.popover_title"), QRect(kPadding, kPadding, width() - 2 * kPadding, kTitleHeight)}};
+    return {{QAccessible::Heading, localizedText(m_titleKey), QRect(kPadding, kPadding, width() - 2 * kPadding, kTitleHeight)}};
 }
 
 void AppsCard::paintEvent(QPaintEvent *)
@@ -128,7 +139,7 @@ void AppsCard::paintEvent(QPaintEvent *)
     const QRectF title(kPadding, kPadding, card.width() - 2 * kPadding, kTitleHeight);
     paintGlyph(painter, Glyph::apps, QRectF(title.left() + 1, title.top() + 2, 10, 10), m_palette.secondaryText());
     painter.setPen(m_palette.secondaryText());
-    drawFittedText(painter, title.adjusted(18, 0, -14, 0), localizedText("apps.popover_title"), uiFont(9), 0.9, Qt::AlignLeft);
+    drawFittedText(painter, title.adjusted(18, 0, -14, 0), localizedText(m_titleKey), uiFont(9), 0.9, Qt::AlignLeft);
     paintGlyph(painter, Glyph::chevronRight, QRectF(title.right() - 8, title.top() + 3, 8, 8), m_palette.secondaryText());
 }
 

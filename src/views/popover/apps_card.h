@@ -21,6 +21,9 @@ public:
     explicit AppsCard(QWidget *parent = nullptr);
 
     void setSession(const AppEnergyList &session);
+    // A machine without a battery has no sessions: its list runs from this program's start.
+    void setHasSessions(bool hasSessions);
+    const char *noneKey() const { return m_hasSessions ? "apps.popover_none" : "apps.popover_none_since_start"; }
     void setFerrowPalette(const FerrowPalette &palette);
     // The card's title, a heading of its lines.
     std::vector<AccessibleItem> accessibleParts() const override;
@@ -37,6 +40,8 @@ private:
     FerrowPalette m_palette;
     AppIcons m_icons;
     std::array<Line *, 3> m_lines{};
+    bool m_hasSessions = true;
+    const char *m_titleKey = "apps.popover_title";
 };
 
 } // namespace ferrow
