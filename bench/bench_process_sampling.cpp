@@ -2,6 +2,7 @@
 // tree, the first (every process new) and the next (every process known, the steady state), and
 // a sample of this machine's own /proc. The application samples every 5 s with its windows closed.
 
+#include "allocation_count.h"
 #include "platform/linux/proc_process_source.h"
 
 #include <QDir>
@@ -12,20 +13,6 @@
 
 #include <atomic>
 #include <memory>
-
-namespace {
-std::atomic<std::size_t> allocationCount{0};
-}
-
-#if defined(__GLIBC__)
-// Counts every heap allocation of this program, Qt's (which go straight to malloc) included.
-extern "C" void *__libc_malloc(std::size_t size);
-extern "C" void *malloc(std::size_t size)
-{
-    ++allocationCount;
-    return __libc_malloc(size);
-}
-#endif
 
 using namespace ferrow;
 

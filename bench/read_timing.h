@@ -7,8 +7,7 @@
 #include <atomic>
 #include <cstddef>
 
-// Every heap allocation of the program, where the C library lets bench_reader count them.
-extern std::atomic<std::size_t> allocationCount;
+#include "allocation_count.h"
 #if defined(__GLIBC__)
 #define FERROW_COUNTS_ALLOCATIONS 1
 #endif

@@ -19,15 +19,6 @@ constexpr std::size_t kMostRead = 64 * 1024;
 // Enough for every application a desktop has installed; past it, some process is inventing ids.
 constexpr qsizetype kMostIds = 512;
 
-std::string_view trimmed(std::string_view text)
-{
-    constexpr std::string_view space = " \t\r";
-    const std::size_t first = text.find_first_not_of(space);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(space) - first + 1);
-}
-
 // A value's \s, \n, \t, \r and \\ escapes.
 QByteArray unescapedValue(std::string_view value)
 {
@@ -55,7 +46,7 @@ DesktopEntries::Entry parsedEntry(std::string_view text)
     bool inMainGroup = false;
     for (std::size_t start = 0; start < text.size();) {
         const std::size_t end = std::min(text.find('\n', start), text.size());
-        const std::string_view line = trimmed(text.substr(start, end - start));
+        const std::string_view line = trimmedText(text.substr(start, end - start));
         start = end + 1;
         if (line.starts_with('[')) {
             if (line != "[Desktop Entry]")
@@ -66,8 +57,8 @@ DesktopEntries::Entry parsedEntry(std::string_view text)
         const std::size_t equals = line.find('=');
         if (!inMainGroup || equals == std::string_view::npos)
             continue;
-        const std::string_view key = trimmed(line.substr(0, equals));
-        const QByteArray value = unescapedValue(trimmed(line.substr(equals + 1)));
+        const std::string_view key = trimmedText(line.substr(0, equals));
+        const QByteArray value = unescapedValue(trimmedText(line.substr(equals + 1)));
         if (key == "Name")
             entry.name = printableName(std::string_view(value.constData(), static_cast<std::size_t>(value.size())));
         else if (key == "Icon")

@@ -110,6 +110,15 @@ bool isFileId(std::string_view id)
 
 } // namespace
 
+std::string_view trimmedText(std::string_view text)
+{
+    constexpr std::string_view space = " \t\r\n";
+    const std::size_t first = text.find_first_not_of(space);
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(space) - first + 1);
+}
+
 int openFileAt(int folder, const char *path)
 {
     return ::openat(folder, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);

@@ -9,6 +9,9 @@
 
 namespace ferrow {
 
+// The text without the spaces, tabs and line ends around it: a sysfs value, a desktop entry's line.
+std::string_view trimmedText(std::string_view text);
+
 // A file relative to an open folder (AT_FDCWD for a path) opened for reading, where a pipe cannot
 // hold the reading up; -1 where it cannot be opened.
 int openFileAt(int folder, const char *path);

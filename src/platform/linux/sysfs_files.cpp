@@ -1,5 +1,7 @@
 #include "platform/linux/sysfs_files.h"
 
+#include "platform/linux/proc_files.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -22,15 +24,6 @@ namespace {
 // A sysfs attribute is at most a page; anything longer is not one of ours.
 constexpr std::size_t kMaximumFileSize = 4096;
 constexpr long kSysfsMagic = 0x62656572; // SYSFS_MAGIC of <linux/magic.h>
-
-std::string_view trimmed(std::string_view text)
-{
-    constexpr std::string_view space = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(space);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(space) - first + 1);
-}
 
 } // namespace
 
@@ -129,7 +122,7 @@ std::optional<std::string> SysfsFiles::readText(const std::string &path)
     const std::optional<std::size_t> size = readRaw(path, buffer, sizeof buffer);
     if (!size)
         return std::nullopt;
-    const std::string_view text = trimmed(std::string_view(buffer, *size));
+    const std::string_view text = trimmedText(std::string_view(buffer, *size));
     if (text.empty() || text.find_first_of("\r\n") != std::string_view::npos)
         return std::nullopt;
     return std::string(text);
